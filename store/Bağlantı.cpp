@@ -1,0 +1,377 @@
+#include "store/Bağlantı.h"
+
+#include "store/BenzerDeseni.h"
+#include "store/DosyaTanıma.h"
+#include "text/TürkçeSıralama.h"
+
+#define SQLITE_HAS_CODEC
+#include <sqlite3.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <chrono>
+
+namespace {
+
+// Large pages halve the cipher's work for long texts. Part of the file format.
+constexpr int SayfaBoyu = 16384;
+constexpr int KilitBekleme = 500;      // ms that another process's short lock is waited for
+constexpr int İlerlemeAdımı = 500;     // machine steps between two looks at the clock
+constexpr qint64 BildirimAralığı = 20; // ms
+
+qint64 şimdi()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+int sıralama(void*, int na, const void* a, int nb, const void* b)
+{
+    return TürkçeKarşılaştır({static_cast<const char*>(a), static_cast<std::size_t>(na)},
+                             {static_cast<const char*>(b), static_cast<std::size_t>(nb)});
+}
+
+std::string_view değerBaytları(sqlite3_value* değer)
+{
+    const auto* metin = reinterpret_cast<const char*>(sqlite3_value_text(değer));
+    return metin ? std::string_view(metin, static_cast<std::size_t>(sqlite3_value_bytes(değer)))
+                 : std::string_view();
+}
+
+// text LIKE pattern; the pattern is compiled once a statement.
+void benzer(sqlite3_context* bağlam, int, sqlite3_value** değerler)
+{
+    if (sqlite3_value_type(değerler[0]) == SQLITE_NULL || sqlite3_value_type(değerler[1]) == SQLITE_NULL)
+        return;
+    try {
+        auto* desen = static_cast<BenzerDeseni*>(sqlite3_get_auxdata(bağlam, 0));
+        std::unique_ptr<BenzerDeseni> yeni;
+        if (!desen) {
+            const std::string_view metin = değerBaytları(değerler[0]);
+            yeni = std::make_unique<BenzerDeseni>(QString::fromUtf8(metin.data(), qsizetype(metin.size())));
+            desen = yeni.get();
+        }
+        sqlite3_result_int(bağlam, desen->Uyar(değerBaytları(değerler[1])) ? 1 : 0);
+        if (yeni)
+            sqlite3_set_auxdata(bağlam, 0, yeni.release(),
+                                [](void* eski) { delete static_cast<BenzerDeseni*>(eski); });
+    } catch (const std::bad_alloc&) {
+        sqlite3_result_error_nomem(bağlam);
+    }
+}
+
+QByteArray anahtarMetni(const Anahtar& anahtar)
+{
+    return anahtar.tür == AnahtarTürü::HamAnahtar ? QByteArray("x'" + anahtar.değer.toHex() + "'")
+                                                  : anahtar.değer;
+}
+
+HataNo açmaHatası(const QString& yol)
+{
+    const QFileInfo bilgi(yol);
+    if (!bilgi.exists())
+        return errno == EACCES ? HataNo::İzinYok : HataNo::DosyaYok;
+    return HataNo::İzinYok;
+}
+
+} // namespace
+
+void Bağlantı::Kapatıcı::operator()(sqlite3* db) const noexcept
+{
+    sqlite3_close_v2(db);
+}
+
+void Deyim::Bırakıcı::operator()(sqlite3_stmt* deyim) const noexcept
+{
+    sqlite3_finalize(deyim);
+}
+
+Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip) : yol_(yol)
+{
+    const QFileInfo bilgi(yol);
+    if (kip == AçmaKipi::Oluştur && bilgi.exists())
+        throw VeritabanıHatası(HataNo::DosyaVar, yol);
+    if (kip != AçmaKipi::Oluştur) {
+        if (!bilgi.exists())
+            throw VeritabanıHatası(HataNo::DosyaYok, yol);
+        if (bilgi.isDir())
+            throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
+        if (bilgi.size() == 0) // SQLite would take it for a new, empty database
+            throw VeritabanıHatası(HataNo::DosyaBoş, yol);
+    }
+
+    const int bayraklar = kip == AçmaKipi::Oku       ? SQLITE_OPEN_READONLY
+                          : kip == AçmaKipi::OkuYaz ? SQLITE_OPEN_READWRITE
+                                                     : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    sqlite3* db = nullptr;
+    const int durum = sqlite3_open_v2(QFile::encodeName(yol).constData(), &db, bayraklar, nullptr);
+    db_.reset(db);
+    if (durum == SQLITE_CANTOPEN)
+        throw VeritabanıHatası(açmaHatası(yol), yol);
+    denetle(durum);
+    sqlite3_extended_result_codes(db, 1);
+    sqlite3_busy_timeout(db, KilitBekleme);
+    if (kip == AçmaKipi::OkuYaz && sqlite3_db_readonly(db, "main") == 1)
+        throw VeritabanıHatası(HataNo::SaltOkunur, yol);
+
+    anahtarıVer(anahtar);
+    denetle(sqlite3_create_collation_v2(db, "TURKCE", SQLITE_UTF8, nullptr, sıralama, nullptr));
+    denetle(sqlite3_create_function_v2(db, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, benzer,
+                                       nullptr, nullptr, nullptr));
+
+    ilkOkuma();
+    if (kip != AçmaKipi::Oluştur && QFileInfo(yol).size() < Sayı("PRAGMA page_count") * SayfaBoyu)
+        throw VeritabanıHatası(HataNo::DosyaYarım, yol);
+    Çalıştır("PRAGMA synchronous=EXTRA");
+}
+
+Bağlantı::~Bağlantı() = default;
+
+// The first real read: only now the key is tried.
+void Bağlantı::ilkOkuma()
+{
+    const int durum = sqlite3_exec(db_.get(), "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+    switch (durum & 0xff) {
+    case SQLITE_OK:
+        return;
+    case SQLITE_CORRUPT: // the first page deciphers, but promises more pages than there are
+        throw VeritabanıHatası(HataNo::DosyaYarım, yol_);
+    case SQLITE_NOTADB:
+    case SQLITE_ERROR:
+        throw VeritabanıHatası(OkunamayanDosyaTanısı(yol_), yol_);
+    default:
+        hataVer(durum, true);
+    }
+}
+
+void Bağlantı::anahtarıVer(const Anahtar& anahtar)
+{
+    const QByteArray değer = anahtarMetni(anahtar);
+    denetle(sqlite3_key(db_.get(), değer.constData(), static_cast<int>(değer.size())));
+    if (Metin("PRAGMA cipher_version").startsWith(u'4')) // the files are version 3's
+        Sayı("PRAGMA cipher_compatibility=3");
+    Sayı("PRAGMA cipher_page_size=" + QByteArray::number(SayfaBoyu));
+    // Sorted texts must not go to a temporary file in the clear.
+    Çalıştır("PRAGMA temp_store=MEMORY");
+}
+
+void Bağlantı::hataVer(int durum, bool adımda) const
+{
+    const QByteArray ileti = sqlite3_errmsg(db_.get());
+    switch (durum & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        throw VeritabanıHatası(HataNo::DosyaKullanımda, yol_);
+    case SQLITE_FULL:
+        throw VeritabanıHatası(HataNo::DiskDolu, yol_);
+    case SQLITE_READONLY:
+        throw VeritabanıHatası(HataNo::SaltOkunur, yol_);
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        throw VeritabanıHatası(HataNo::İzinYok, yol_);
+    case SQLITE_CANTOPEN: // a journal that can't be made: the folder takes no new files
+        throw VeritabanıHatası(HataNo::SaltOkunur, yol_);
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+        throw VeritabanıHatası(HataNo::DosyaBozuk, yol_);
+    case SQLITE_TOOBIG:
+        throw VeritabanıHatası(HataNo::DeğerÇokUzun, yol_);
+    case SQLITE_NOMEM:
+        throw std::bad_alloc();
+    case SQLITE_IOERR:
+        if (durum == SQLITE_IOERR_SHORT_READ)
+            throw VeritabanıHatası(HataNo::DosyaYarım, yol_);
+        throw VeritabanıHatası(HataNo::DiskHatası, yol_);
+    default:
+        break;
+    }
+    if (ileti.startsWith("no such table"))
+        throw VeritabanıHatası(HataNo::TabloYok, QString::fromUtf8(ileti.mid(15)));
+    if (ileti.startsWith("no such column"))
+        throw VeritabanıHatası(HataNo::AlanYok, QString::fromUtf8(ileti.mid(16)));
+    // A page that does not decipher is reported as a plain error while a statement runs.
+    throw VeritabanıHatası(adımda ? HataNo::DosyaBozuk : HataNo::Sözdizimi, adımda ? yol_ : QString());
+}
+
+void Bağlantı::denetle(int durum) const
+{
+    if (durum != SQLITE_OK)
+        hataVer(durum, false);
+}
+
+void Bağlantı::Çalıştır(const QByteArray& sql)
+{
+    Deyim(*this, sql).Çalıştır();
+}
+
+qint64 Bağlantı::Sayı(const QByteArray& sql)
+{
+    Deyim deyim(*this, sql);
+    return deyim.Adım() ? deyim.Sayı(0) : 0;
+}
+
+QString Bağlantı::Metin(const QByteArray& sql)
+{
+    Deyim deyim(*this, sql);
+    return deyim.Adım() ? deyim.Metin(0) : QString();
+}
+
+void Bağlantı::İliştir(const QString& yol, const Anahtar& anahtar, const QByteArray& ad)
+{
+    Deyim deyim(*this, "ATTACH DATABASE ?1 AS " + ad + " KEY ?2");
+    deyim.Bağla(1, yol);
+    deyim.Bağla(2, QString::fromUtf8(anahtarMetni(anahtar)));
+    deyim.Çalıştır();
+    Sayı("PRAGMA " + ad + ".cipher_page_size=" + QByteArray::number(SayfaBoyu));
+}
+
+qint64 Bağlantı::SonKimlik() const
+{
+    return sqlite3_last_insert_rowid(db_.get());
+}
+
+qint64 Bağlantı::DeğişenSatır() const
+{
+    return sqlite3_changes(db_.get());
+}
+
+qint64 Bağlantı::ToplamDeğişim() const
+{
+    return sqlite3_total_changes(db_.get());
+}
+
+void Bağlantı::İlerlemeAta(std::function<void()> bildir)
+{
+    bildir_ = std::move(bildir);
+    sqlite3_progress_handler(db_.get(), bildir_ ? İlerlemeAdımı : 0, &Bağlantı::ilerleme, this);
+}
+
+int Bağlantı::ilerleme(void* bağlantı)
+{
+    auto* kendi = static_cast<Bağlantı*>(bağlantı);
+    if (const qint64 an = şimdi(); an - kendi->sonBildirim_ >= BildirimAralığı) {
+        kendi->bildir_();
+        kendi->sonBildirim_ = şimdi();
+    }
+    return 0;
+}
+
+Deyim::Deyim(Bağlantı& bağlantı, const QByteArray& sql) : bağlantı_(bağlantı)
+{
+    sqlite3_stmt* deyim = nullptr;
+    const char* kalan = nullptr;
+    const int durum = sqlite3_prepare_v2(bağlantı.db_.get(), sql.constData(), static_cast<int>(sql.size()),
+                                         &deyim, &kalan);
+    deyim_.reset(deyim);
+    bağlantı.denetle(durum);
+    const char* const son = sql.constData() + sql.size();
+    while (kalan < son && (*kalan == ' ' || *kalan == ';' || *kalan == '\n'))
+        ++kalan;
+    if (!deyim || kalan != son)
+        throw VeritabanıHatası(HataNo::Sözdizimi);
+}
+
+Deyim& Deyim::Bağla(int sıra, qint64 sayı)
+{
+    bağlantı_.denetle(sqlite3_bind_int64(deyim_.get(), sıra, sayı));
+    return *this;
+}
+
+Deyim& Deyim::Bağla(int sıra, QStringView metin)
+{
+    const QByteArray utf8 = metin.toUtf8();
+    bağlantı_.denetle(sqlite3_bind_text64(deyim_.get(), sıra, utf8.constData(),
+                                          static_cast<sqlite3_uint64>(utf8.size()), SQLITE_TRANSIENT,
+                                          SQLITE_UTF8));
+    return *this;
+}
+
+Deyim& Deyim::Bağla(int sıra, const QByteArray& baytlar)
+{
+    bağlantı_.denetle(sqlite3_bind_blob64(deyim_.get(), sıra, baytlar.constData(),
+                                          static_cast<sqlite3_uint64>(baytlar.size()), SQLITE_TRANSIENT));
+    return *this;
+}
+
+bool Deyim::Adım()
+{
+    const int durum = sqlite3_step(deyim_.get());
+    if (durum == SQLITE_ROW)
+        return true;
+    if (durum == SQLITE_DONE)
+        return false;
+    bağlantı_.hataVer(durum, true);
+}
+
+void Deyim::Çalıştır()
+{
+    while (Adım()) {
+    }
+    Sıfırla();
+}
+
+void Deyim::Sıfırla()
+{
+    sqlite3_reset(deyim_.get());
+    sqlite3_clear_bindings(deyim_.get());
+}
+
+qint64 Deyim::Sayı(int sütun) const
+{
+    return sqlite3_column_int64(deyim_.get(), sütun);
+}
+
+QString Deyim::Metin(int sütun) const
+{
+    const std::string_view baytlar = Baytlar(sütun);
+    return QString::fromUtf8(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+}
+
+std::string_view Deyim::Baytlar(int sütun) const
+{
+    if (sqlite3_column_type(deyim_.get(), sütun) == SQLITE_NULL)
+        return {};
+    const auto* metin = reinterpret_cast<const char*>(sqlite3_column_text(deyim_.get(), sütun));
+    if (!metin) // the text's pages could not be read; the statement itself reports nothing
+        throw VeritabanıHatası(HataNo::DosyaBozuk, bağlantı_.yol_);
+    return {metin, static_cast<std::size_t>(sqlite3_column_bytes(deyim_.get(), sütun))};
+}
+
+int Deyim::SütunSayısı() const
+{
+    return sqlite3_column_count(deyim_.get());
+}
+
+QString Deyim::SütunAdı(int sütun) const
+{
+    return QString::fromUtf8(sqlite3_column_name(deyim_.get(), sütun));
+}
+
+bool Deyim::SaltOkur() const
+{
+    return sqlite3_stmt_readonly(deyim_.get()) != 0;
+}
+
+İşlem::İşlem(Bağlantı& bağlantı) : bağlantı_(bağlantı)
+{
+    bağlantı_.Çalıştır("BEGIN IMMEDIATE");
+}
+
+İşlem::~İşlem()
+{
+    if (!açık_)
+        return;
+    try {
+        bağlantı_.Çalıştır("ROLLBACK");
+    } catch (const std::exception&) {
+        // SQLite has rolled back by itself; there is nothing left to undo.
+    }
+}
+
+void İşlem::Onayla()
+{
+    bağlantı_.Çalıştır("COMMIT");
+    açık_ = false;
+}

@@ -1,0 +1,133 @@
+// The thin layer over SQLCipher's C interface: a connection, a statement, a transaction. Used inside
+// store/ only; the C headers stay in the source file.
+#pragma once
+
+#include "store/VeritabanıHatası.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+class Deyim;
+
+/// How the key of a file is given.
+enum class AnahtarTürü { Parola, HamAnahtar };
+
+struct Anahtar
+{
+    AnahtarTürü tür = AnahtarTürü::Parola;
+    QByteArray değer; ///< a password as UTF-8, or 32 raw bytes
+};
+
+enum class AçmaKipi { Oku, OkuYaz, Oluştur };
+
+/// An open encrypted file. Owned by whoever opened it; closes the file when destroyed. Not thread-safe.
+class Bağlantı
+{
+public:
+    /// Opens the file, gives the key, registers the Turkish collation and LIKE, and reads once.
+    /// Throws 3024, 3027, 3031 (see OkunamayanDosyaTanısı), 3043, 3045, 3051, 3343, 3901 or 3902. Oluştur refuses an existing file with 3204.
+    Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip);
+    ~Bağlantı();
+    Bağlantı(const Bağlantı&) = delete;
+    Bağlantı& operator=(const Bağlantı&) = delete;
+
+    /// Runs one statement that returns no rows.
+    void Çalıştır(const QByteArray& sql);
+    /// The first column of the first row, 0 where there is none.
+    qint64 Sayı(const QByteArray& sql);
+    QString Metin(const QByteArray& sql);
+
+    /// Attaches another file, always with a key: without one SQLCipher may write plain text.
+    void İliştir(const QString& yol, const Anahtar& anahtar, const QByteArray& ad);
+
+    qint64 SonKimlik() const;     ///< key of the row inserted last
+    qint64 DeğişenSatır() const;  ///< rows changed by the last statement
+    qint64 ToplamDeğişim() const; ///< rows changed since opening
+
+    /// Called every few thousand steps of a running statement, at most once every 20 ms; empty for none.
+    void İlerlemeAta(std::function<void()> bildir);
+
+    const QString& Yol() const { return yol_; }
+
+private:
+    friend class Deyim;
+    struct Kapatıcı
+    {
+        void operator()(sqlite3* db) const noexcept;
+    };
+
+    void anahtarıVer(const Anahtar& anahtar);
+    void ilkOkuma();
+    [[noreturn]] void hataVer(int durum, bool adımda) const;
+    void denetle(int durum) const;
+    static int ilerleme(void* bağlantı);
+
+    QString yol_;
+    std::unique_ptr<sqlite3, Kapatıcı> db_;
+    std::function<void()> bildir_;
+    qint64 sonBildirim_ = 0; // ms of the steady clock
+};
+
+/// A prepared statement. Must not outlive its connection.
+class Deyim
+{
+public:
+    /// Throws 3075 for a syntax error, 3078 for an unknown table, 3061 for an unknown column, and 3075
+    /// for a text that holds no statement or more than one.
+    Deyim(Bağlantı& bağlantı, const QByteArray& sql);
+
+    /// Parameters count from 1.
+    Deyim& Bağla(int sıra, qint64 sayı);
+    Deyim& Bağla(int sıra, QStringView metin);
+    Deyim& Bağla(int sıra, const QByteArray& baytlar);
+
+    /// Moves to the next row; false when there is none left.
+    bool Adım();
+    /// Runs to the end and makes the statement ready for the next run.
+    void Çalıştır();
+    void Sıfırla();
+
+    /// Columns count from 0.
+    qint64 Sayı(int sütun) const;
+    QString Metin(int sütun) const;
+    /// The column's bytes as they are stored; valid until the next step. Throws 3049 where they can't
+    /// be brought into memory.
+    std::string_view Baytlar(int sütun) const;
+    int SütunSayısı() const;
+    QString SütunAdı(int sütun) const;
+
+    bool SaltOkur() const;
+
+private:
+    struct Bırakıcı
+    {
+        void operator()(sqlite3_stmt* deyim) const noexcept;
+    };
+
+    Bağlantı& bağlantı_;
+    std::unique_ptr<sqlite3_stmt, Bırakıcı> deyim_;
+};
+
+/// A write transaction: rolled back when destroyed before Onayla.
+class İşlem
+{
+public:
+    explicit İşlem(Bağlantı& bağlantı);
+    ~İşlem();
+    İşlem(const İşlem&) = delete;
+    İşlem& operator=(const İşlem&) = delete;
+
+    void Onayla();
+
+private:
+    Bağlantı& bağlantı_;
+    bool açık_ = true;
+};

@@ -1,0 +1,109 @@
+#include "store/BenzerDeseni.h"
+
+#include "text/TürkçeHarfler.h"
+
+#include <algorithm>
+
+BenzerDeseni::BenzerDeseni(QStringView desen)
+{
+    for (qsizetype i = 0; i < desen.size(); ++i) {
+        const char16_t harf = desen[i].unicode();
+        if (harf == u'*') {
+            if (öğeler_.empty() || öğeler_.back().tür != Tür::Hepsi)
+                öğeler_.push_back({Tür::Hepsi});
+        } else if (harf == u'?') {
+            öğeler_.push_back({Tür::TekHarf});
+        } else if (harf == u'#') {
+            öğeler_.push_back({Tür::Rakam});
+        } else if (const qsizetype son = harf == u'[' ? desen.indexOf(u']', i + 1) : -1; son >= 0) {
+            QStringView liste = desen.sliced(i + 1, son - i - 1);
+            const bool değil = liste.startsWith(u'!');
+            if (değil)
+                liste = liste.sliced(1);
+            if (!liste.isEmpty())
+                öğeler_.push_back({değil ? Tür::DeğilListe : Tür::Liste, 0, aralıklarıOku(liste)});
+            else if (değil) // [!] is a list of the exclamation mark alone
+                öğeler_.push_back({Tür::Harf, u'!'});
+            i = son;
+        } else {
+            öğeler_.push_back({Tür::Harf, HarfKatla(harf)});
+        }
+    }
+}
+
+std::vector<BenzerDeseni::Aralık> BenzerDeseni::aralıklarıOku(QStringView liste)
+{
+    std::vector<Aralık> aralıklar;
+    for (qsizetype i = 0; i < liste.size(); ++i) {
+        const char16_t ilk = HarfKatla(liste[i].unicode());
+        if (i + 2 < liste.size() && liste[i + 1] == u'-') {
+            const char16_t son = HarfKatla(liste[i + 2].unicode());
+            aralıklar.push_back({std::min(ilk, son), std::max(ilk, son)});
+            i += 2;
+        } else {
+            aralıklar.push_back({ilk, ilk});
+        }
+    }
+    return aralıklar;
+}
+
+qsizetype BenzerDeseni::aldığı(const Öğe& öğe, QStringView metin, qsizetype yer)
+{
+    const char16_t birim = metin[yer].unicode();
+    const qsizetype boy = QChar::isHighSurrogate(birim) && yer + 1 < metin.size() ? 2 : 1;
+    const auto listede = [&öğe](char16_t harf) {
+        return std::any_of(öğe.aralıklar.begin(), öğe.aralıklar.end(),
+                           [harf](Aralık a) { return a.ilk <= harf && harf <= a.son; });
+    };
+    switch (öğe.tür) {
+    case Tür::Harf:
+        return HarfKatla(birim) == öğe.harf ? 1 : 0;
+    case Tür::TekHarf:
+        return boy;
+    case Tür::Rakam:
+        return birim >= u'0' && birim <= u'9' ? 1 : 0;
+    case Tür::Liste:
+        return listede(HarfKatla(birim)) ? boy : 0;
+    case Tür::DeğilListe:
+        return listede(HarfKatla(birim)) ? 0 : boy;
+    case Tür::Hepsi:
+        break;
+    }
+    return 0;
+}
+
+bool BenzerDeseni::Uyar(QStringView metin) const
+{
+    // Only the last * is ever gone back to: what an earlier one skipped, a later one can skip as well.
+    std::size_t öğe = 0;
+    qsizetype yer = 0;
+    std::size_t yıldızdanSonra = 0;
+    qsizetype yıldızYeri = -1;
+    while (yer < metin.size()) {
+        if (öğe < öğeler_.size() && öğeler_[öğe].tür == Tür::Hepsi) {
+            yıldızdanSonra = ++öğe;
+            yıldızYeri = yer;
+            if (öğe == öğeler_.size())
+                return true;
+            continue;
+        }
+        const qsizetype boy = öğe < öğeler_.size() ? aldığı(öğeler_[öğe], metin, yer) : 0;
+        if (boy > 0) {
+            yer += boy;
+            ++öğe;
+        } else if (yıldızYeri >= 0) {
+            yer = ++yıldızYeri;
+            öğe = yıldızdanSonra;
+        } else {
+            return false;
+        }
+    }
+    while (öğe < öğeler_.size() && öğeler_[öğe].tür == Tür::Hepsi)
+        ++öğe;
+    return öğe == öğeler_.size();
+}
+
+bool BenzerDeseni::Uyar(std::string_view utf8) const
+{
+    return Uyar(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+}

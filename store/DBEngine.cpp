@@ -1,0 +1,63 @@
+#include "store/DBEngine.h"
+
+#include "store/DosyaTanıma.h"
+#include "store/KitaplıkDosyası.h"
+#include "store/ÇalışmaGrubu.h"
+
+#include <QFileInfo>
+
+namespace {
+
+// The only collation that libraries have, as the connect string names it.
+constexpr QStringView TürkçeYerel = u";LANGID=0x041F;CP=1254;COUNTRY=0";
+
+} // namespace
+
+DBEngine::DBEngine(İlerlemeBildirimi bildir) : bildir_(std::move(bildir)) {}
+
+void DBEngine::SystemDB(const QString& yol)
+{
+    if (!QFileInfo::exists(yol))
+        throw VeritabanıHatası(HataNo::DosyaYok, yol);
+    kilit_.emplace(QFileInfo(yol).absolutePath());
+    grupYolu_ = yol;
+}
+
+Workspace DBEngine::CreateWorkspace(const QString& ad, const QString& kullanıcı, const QString& parola)
+{
+    auto grup = std::make_unique<ÇalışmaGrubu>(grupYolu_);
+    if (!grup->HesapGeçerli(kullanıcı, parola))
+        throw VeritabanıHatası(HataNo::HesapGeçersiz, kullanıcı);
+    return Workspace(std::move(grup), ad, kullanıcı);
+}
+
+void DBEngine::CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
+                               int seçenekler, const QString& kaynakYereli)
+{
+    if (hedefYereli != TürkçeYerel)
+        throw VeritabanıHatası(HataNo::KitaplıkDeğil, hedefYereli);
+    if (seçenekler != dbEncrypt)
+        throw VeritabanıHatası(HataNo::İzinYok, hedef);
+    if (QFileInfo::exists(hedef))
+        throw VeritabanıHatası(HataNo::DosyaVar, hedef);
+
+    const QString parola = BağlantıMetnindenParola(kaynakYereli);
+    ÇalışmaGrubu grup(grupYolu_);
+    GeçiciDosya kopya(hedef);
+    qint64 satırlar = 0;
+    {
+        const auto bağlantı = KitaplıkBağlantısı(kaynak, parola, AçmaKipi::OkuYaz, grup);
+        bağlantı->İlerlemeAta(bildir_);
+        satırlar = KitaplığıKopyala(*bağlantı, hedef, parola);
+    }
+    if (DüzMetinVeritabanı(hedef))
+        throw VeritabanıHatası(HataNo::İzinYok, hedef);
+    {
+        const auto bağlantı = KitaplıkBağlantısı(hedef, parola, AçmaKipi::Oku, grup);
+        bağlantı->İlerlemeAta(bildir_);
+        if (TümSatırlarıOku(*bağlantı) != satırlar)
+            throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak);
+    }
+    DiskeYaz(hedef);
+    kopya.Kalsın();
+}

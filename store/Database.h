@@ -1,0 +1,30 @@
+// An open library.
+#pragma once
+
+#include "store/Recordset.h"
+
+#include <QString>
+
+#include <memory>
+
+class Bağlantı;
+
+/// Opened by Workspace. Move-only; closed by Close or its destructor, and not before the last of its
+/// recordsets.
+class Database
+{
+public:
+    explicit Database(std::shared_ptr<Bağlantı> bağlantı) : bağlantı_(std::move(bağlantı)) {}
+    Database(Database&&) noexcept = default;
+    Database& operator=(Database&&) noexcept = default;
+
+    /// Runs one reading query. A query that begins with SELECT * gives rows that can be changed, any
+    /// other a read-only snapshot. Throws 3075 for anything but exactly one SELECT, 3078 and 3061 for
+    /// unknown names, 3049 for damage, 3420 after Close.
+    Recordset OpenRecordset(const QString& sql) const;
+
+    void Close() { bağlantı_.reset(); }
+
+private:
+    std::shared_ptr<Bağlantı> bağlantı_;
+};

@@ -1,0 +1,225 @@
+#include "store/KitaplıkDosyası.h"
+
+#include "store/DosyaTanıma.h"
+#include "store/MakaleTablosu.h"
+#include "store/ÇalışmaGrubu.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t BlokBoyu = 1 << 20;
+
+[[noreturn]] void sistemHatası(int hata, const QString& yol)
+{
+    switch (hata) {
+    case ENOENT:
+        throw VeritabanıHatası(HataNo::DosyaYok, yol);
+    case ENOSPC:
+    case EDQUOT:
+        throw VeritabanıHatası(HataNo::DiskDolu, yol);
+    case EROFS:
+    case EACCES:
+    case EPERM:
+        throw VeritabanıHatası(HataNo::SaltOkunur, yol);
+    default:
+        throw VeritabanıHatası(HataNo::DiskHatası,
+                               yol + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(hata)));
+    }
+}
+
+/// A file descriptor that closes itself.
+class Tanıtıcı
+{
+public:
+    Tanıtıcı(const QString& yol, int bayraklar, mode_t izin = 0)
+        : yol_(yol), no_(open(QFile::encodeName(yol).constData(), bayraklar | O_CLOEXEC, izin))
+    {
+        if (no_ < 0)
+            sistemHatası(errno, yol_);
+    }
+    ~Tanıtıcı() { close(no_); }
+    Tanıtıcı(const Tanıtıcı&) = delete;
+    Tanıtıcı& operator=(const Tanıtıcı&) = delete;
+
+    std::size_t Oku(char* baytlar, std::size_t boy) const
+    {
+        ssize_t okunan = 0;
+        do
+            okunan = read(no_, baytlar, boy);
+        while (okunan < 0 && errno == EINTR);
+        if (okunan < 0)
+            sistemHatası(errno, yol_);
+        return static_cast<std::size_t>(okunan);
+    }
+    void Yaz(const char* baytlar, std::size_t boy) const
+    {
+        while (boy > 0) {
+            const ssize_t yazılan = write(no_, baytlar, boy);
+            if (yazılan < 0 && errno == EINTR)
+                continue;
+            if (yazılan < 0)
+                sistemHatası(errno, yol_);
+            baytlar += yazılan;
+            boy -= static_cast<std::size_t>(yazılan);
+        }
+    }
+    void DiskeYaz() const
+    {
+        if (fsync(no_) != 0)
+            sistemHatası(errno, yol_);
+    }
+    void İzinVer(mode_t izin) const
+    {
+        if (fchmod(no_, izin) != 0)
+            sistemHatası(errno, yol_);
+    }
+
+private:
+    QString yol_;
+    int no_;
+};
+
+void klasörüDiskeYaz(const QString& yol)
+{
+    Tanıtıcı(QFileInfo(yol).absolutePath(), O_RDONLY | O_DIRECTORY).DiskeYaz();
+}
+
+Anahtar parolaAnahtarı(const QString& parola)
+{
+    return {AnahtarTürü::Parola, parola.toUtf8()};
+}
+
+} // namespace
+
+GeçiciDosya::~GeçiciDosya()
+{
+    if (!yol_.isEmpty())
+        QFile::remove(yol_);
+}
+
+void KitaplıkOluştur(const QString& yol, const QString& parola)
+{
+    Bağlantı bağlantı(yol, parolaAnahtarı(parola), AçmaKipi::Oluştur);
+    İşlem işlem(bağlantı);
+    bağlantı.Çalıştır(TabloSql("main"));
+    for (const QByteArray& sql : DizinSql("main"))
+        bağlantı.Çalıştır(sql);
+    bağlantı.Çalıştır("PRAGMA user_version=" + QByteArray::number(KitaplıkSürümü));
+    işlem.Onayla();
+}
+
+std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QString& parola, AçmaKipi kip,
+                                             ÇalışmaGrubu& grup)
+{
+    try {
+        auto bağlantı = std::make_unique<Bağlantı>(yol, parolaAnahtarı(parola), kip);
+        if (bağlantı->Sayı("PRAGMA user_version") > KitaplıkSürümü)
+            throw VeritabanıHatası(HataNo::SürümYeni, yol);
+        if (bağlantı->Sayı("SELECT count(*) FROM sqlite_master WHERE type='table' AND name='Makaleler'") != 1)
+            throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
+        return bağlantı;
+    } catch (const VeritabanıHatası& hata) {
+        if (hata.Numara() == HataNo::ParolaYanlış && grup.KitaplıkParolasıDoğru(parola))
+            throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Numara()), yol);
+        throw;
+    }
+}
+
+qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola)
+{
+    // ATTACH makes no new file for a connection that was not opened to make one.
+    Tanıtıcı(hedef, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    kaynak.İliştir(hedef, parolaAnahtarı(parola), "kopya");
+    // A throw-away file until it is whole: it needs no journal of its own.
+    kaynak.Sayı("PRAGMA kopya.journal_mode=OFF");
+    kaynak.Çalıştır("PRAGMA kopya.synchronous=OFF");
+    qint64 satırlar = 0;
+    {
+        İşlem işlem(kaynak);
+        kaynak.Çalıştır(TabloSql("kopya"));
+        kaynak.Çalıştır("INSERT INTO kopya.Makaleler SELECT * FROM main.Makaleler");
+        satırlar = kaynak.DeğişenSatır();
+        for (const QByteArray& sql : DizinSql("kopya"))
+            kaynak.Çalıştır(sql);
+        kaynak.Çalıştır("PRAGMA kopya.user_version=" + QByteArray::number(KitaplıkSürümü));
+        işlem.Onayla();
+    }
+    kaynak.Çalıştır("DETACH DATABASE kopya");
+    return satırlar;
+}
+
+qint64 TümSatırlarıOku(Bağlantı& kitaplık)
+{
+    qint64 satırlar = 0;
+    Deyim deyim(kitaplık, "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
+                          " FROM Makaleler NOT INDEXED");
+    for (; deyim.Adım(); ++satırlar) {
+        for (int sütun = 0; sütun < int(MakaleSütunları.size()); ++sütun) {
+            if (deyim.Baytlar(sütun).find('\0') != std::string_view::npos)
+                throw VeritabanıHatası(HataNo::DosyaBozuk, kitaplık.Yol());
+        }
+    }
+    return satırlar;
+}
+
+void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir)
+{
+    const QString hedef = QFileInfo(kitaplık).canonicalFilePath();
+    if (hedef.isEmpty())
+        throw VeritabanıHatası(HataNo::DosyaYok, kitaplık);
+    struct stat eski = {};
+    if (stat(QFile::encodeName(hedef).constData(), &eski) != 0)
+        sistemHatası(errno, hedef);
+
+    const QString ara = hedef + u'~';
+    DosyayıSil(ara);
+    GeçiciDosya geçici(ara);
+    {
+        const Tanıtıcı okunan(yeni, O_RDONLY);
+        const Tanıtıcı yazılan(ara, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+        std::vector<char> blok(BlokBoyu);
+        while (const std::size_t boy = okunan.Oku(blok.data(), blok.size())) {
+            yazılan.Yaz(blok.data(), boy);
+            if (bildir)
+                bildir();
+        }
+        yazılan.İzinVer(eski.st_mode & 07777);
+        yazılan.DiskeYaz();
+    }
+    if (rename(QFile::encodeName(ara).constData(), QFile::encodeName(hedef).constData()) != 0)
+        sistemHatası(errno, hedef);
+    geçici.Kalsın();
+    klasörüDiskeYaz(hedef);
+}
+
+void DiskeYaz(const QString& yol)
+{
+    Tanıtıcı(yol, O_RDONLY).DiskeYaz();
+    klasörüDiskeYaz(yol);
+}
+
+void DosyayıSil(const QString& yol)
+{
+    if (unlink(QFile::encodeName(yol).constData()) != 0 && errno != ENOENT)
+        sistemHatası(errno, yol);
+}
+
+QString BağlantıMetnindenParola(const QString& bağlantıMetni)
+{
+    const QStringList parçalar = bağlantıMetni.split(u';');
+    for (const QString& parça : parçalar) {
+        const qsizetype eşit = parça.indexOf(u'=');
+        if (eşit > 0 && parça.left(eşit).compare(QLatin1String("pwd"), Qt::CaseInsensitive) == 0)
+            return parça.mid(eşit + 1);
+    }
+    return {};
+}

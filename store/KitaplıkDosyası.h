@@ -1,0 +1,55 @@
+// The library file as a whole: creating, opening and checking it, and putting a new one in its place.
+#pragma once
+
+#include "store/Bağlantı.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class ÇalışmaGrubu;
+
+/// A file that is not whole yet: deleted when this is destroyed, unless it was kept.
+class GeçiciDosya
+{
+public:
+    explicit GeçiciDosya(const QString& yol) : yol_(yol) {}
+    ~GeçiciDosya();
+    GeçiciDosya(const GeçiciDosya&) = delete;
+    GeçiciDosya& operator=(const GeçiciDosya&) = delete;
+    void Kalsın() { yol_.clear(); }
+
+private:
+    QString yol_;
+};
+
+/// Creates an empty library. Throws 3204 when the file exists.
+void KitaplıkOluştur(const QString& yol, const QString& parola);
+
+/// Opens an existing library and makes sure that it is one. The workgroup file tells a wrong password
+/// (3031) from a damaged file (3049, 3901). Throws 3343 for another database, 3041 for a later version.
+std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QString& parola, AçmaKipi kip,
+                                             ÇalışmaGrubu& grup);
+
+/// Copies the rows of an open library into a new file with the same password and builds its indices.
+/// The copy is neither synced nor checked
+/// yet, and half a file on failure. Returns the number of rows.
+qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola);
+
+/// Reads every value of every row. Throws 3049 when one can't be read whole or holds NUL, as what a
+/// damaged page deciphers to. Returns the number of rows.
+qint64 TümSatırlarıOku(Bağlantı& kitaplık);
+
+/// Replaces the library by a copy of the new file, at no moment leaving a half file under its name.
+/// Follows a symbolic link and keeps the old file's access rights. On failure the old file stands.
+void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir);
+
+/// Writes a file's bytes and its folder's entry to the disk.
+void DiskeYaz(const QString& yol);
+
+/// Deletes a file if there is one. Throws 3027 or 3051 when it can't be deleted.
+void DosyayıSil(const QString& yol);
+
+/// The password of a connect string such as ";PWD=..."; the keyword's letter case makes no difference.
+QString BağlantıMetnindenParola(const QString& bağlantıMetni);

@@ -1,0 +1,37 @@
+// The article library's file set and the steps in which it is opened and closed.
+#pragma once
+
+#include "store/DBEngine.h"
+
+#include <QString>
+
+/// The file set, all in the program folder.
+namespace KitaplıkDosyaları {
+inline constexpr QStringView Veritabanı = u"Makale.mde";
+inline constexpr QStringView ÇalışmaGrubu = u"Makale.tps";
+/// Target of the compaction; kept until the next start, so that a whole copy exists at every moment.
+inline constexpr QStringView Kopya = u"Makale.md_";
+} // namespace KitaplıkDosyaları
+
+/// Creates an empty library and its workgroup file in the folder. Throws 3204 when either exists, and
+/// then creates nothing.
+void KitaplıkKur(const QString& klasör);
+
+/// The owner's workspace; the engine's workgroup file must be set.
+Workspace SahipÇalışmaAlanı(DBEngine& motor);
+/// The workspace of the account under which the library stays open.
+Workspace KullanıcıÇalışmaAlanı(DBEngine& motor);
+
+/// Replaces the library by a compacted copy of itself. Whatever fails, the library file stands as it was.
+void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir);
+
+/// Makes sure that the user account exists; it stands already where the last run ended abnormally.
+void KullanıcıHesabınıHazırla(const Workspace& sahip);
+/// Deletes the user account, which lives for one run only.
+void KullanıcıHesabınıSil(const Workspace& sahip);
+
+/// Opens the library in the user's workspace.
+Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
+
+/// @param klasör with a separator at its end
+QString KitaplıkYolu(const QString& klasör, QStringView dosya);

@@ -1,0 +1,39 @@
+// The library file's table: names, limits and statements that the format fixes.
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+#include <array>
+
+/// The five columns in the order of the table.
+enum class MakaleSütunu { YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni };
+
+struct SütunTanımı
+{
+    QStringView ad;
+    qsizetype enUzun; ///< UTF-16 units; a longer value is refused
+};
+
+/// The text stands last, so that a row's short columns are read without it. Its limit keeps the UTF-8
+/// form below what SQLite can hold (1,000,000,000 bytes).
+inline constexpr std::array<SütunTanımı, 5> MakaleSütunları = {{
+    {u"YazarAdi", 1'000},
+    {u"MakaleBasligi", 1'000},
+    {u"YayimYeri", 1'000},
+    {u"YayimTarihi", 1'000},
+    {u"MakaleMetni", 300'000'000},
+}};
+
+constexpr const SütunTanımı& Tanım(MakaleSütunu sütun)
+{
+    return MakaleSütunları[static_cast<std::size_t>(sütun)];
+}
+
+/// Written into the file's header; a file of a higher version is refused.
+inline constexpr int KitaplıkSürümü = 1;
+
+/// The statement that creates the table in the named attached database.
+QByteArray TabloSql(const QByteArray& veritabanı);
+/// The statements that create the indices; run after the rows are in.
+std::array<QByteArray, 2> DizinSql(const QByteArray& veritabanı);

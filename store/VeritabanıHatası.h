@@ -1,0 +1,54 @@
+// The one error type of the store.
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+/// What went wrong. The numbers are shown to users and never change; where the field has a customary
+/// number for a fault, that number is used.
+enum class HataNo : int {
+    KayıtYok = 3021,
+    KayıtAçılmadı = 3020,
+    DosyaYok = 3024,
+    DiskDolu = 3026,
+    SaltOkunur = 3027,
+    HesapGeçersiz = 3029,
+    ParolaYanlış = 3031,
+    SürümYeni = 3041,
+    DiskHatası = 3043,
+    DosyaKullanımda = 3045,
+    DosyaBozuk = 3049,
+    İzinYok = 3051,
+    AlanYok = 3061,
+    Sözdizimi = 3075,
+    TabloYok = 3078,
+    DeğerÇokUzun = 3163,
+    KayıtSilinmiş = 3167,
+    DosyaVar = 3204,
+    ÖğeYok = 3265,
+    KitaplıkDeğil = 3343,
+    HesapVar = 3390,
+    NesneKapalı = 3420,
+    DeğerGeçersiz = 3421,
+    // Beyond the customary list: the two ways in which a file can be incomplete.
+    DosyaYarım = 3901,
+    DosyaBoş = 3902,
+};
+
+/// Thrown by everything in store/. Carries the number and a Turkish sentence for the user.
+class VeritabanıHatası : public std::exception
+{
+public:
+    /// @param ek what the sentence is about (a file, a name); set behind it in brackets when not empty
+    explicit VeritabanıHatası(HataNo numara, const QString& ek = {});
+
+    HataNo Numara() const noexcept { return numara_; }
+    const QString& Açıklama() const noexcept { return açıklama_; }
+    const char* what() const noexcept override { return bayt_.constData(); }
+
+private:
+    HataNo numara_;
+    QString açıklama_;
+    QByteArray bayt_; // the description as UTF-8, for what()
+};

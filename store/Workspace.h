@@ -1,0 +1,79 @@
+// A session of one account, and the accounts themselves.
+#pragma once
+
+#include "store/Database.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class Bağlantı;
+class ÇalışmaGrubu;
+
+/// An account: the data to append to Users, or what Users tells about one (then without its password).
+class User
+{
+public:
+    explicit User(const QString& ad) : ad_(ad) {}
+
+    const QString& Name() const { return ad_; }
+    const QString& PID() const { return pid_; }
+    void PID(const QString& pid) { pid_ = pid; }
+    const QString& Password() const { return parola_; }
+    void Password(const QString& parola) { parola_ = parola; }
+
+private:
+    QString ad_, pid_, parola_;
+};
+
+/// The accounts of a workspace's workgroup file. Must not outlive the workspace.
+class UserCollection
+{
+public:
+    UserCollection(ÇalışmaGrubu& grup, bool sahip) : grup_(grup), sahip_(sahip) {}
+
+    /// All accounts in the order of their names.
+    std::vector<User> Tümü() const;
+    /// Writes the account into the workgroup file. Throws 3051 for any but the owner's workspace, 3390
+    /// when the name is taken.
+    void Append(const User& kullanıcı);
+    /// Throws 3051 for any but the owner's workspace and for the owner account, 3265 for an unknown name.
+    void Delete(const QString& ad);
+
+private:
+    ÇalışmaGrubu& grup_;
+    bool sahip_;
+};
+
+/// Made by DBEngine for a valid account. Move-only; closed by Close or its destructor.
+class Workspace
+{
+public:
+    Workspace(std::unique_ptr<ÇalışmaGrubu> grup, const QString& ad, const QString& kullanıcı);
+    ~Workspace();
+    Workspace(Workspace&&) noexcept;
+    Workspace& operator=(Workspace&&) noexcept;
+
+    const QString& Name() const { return ad_; }
+    const QString& UserName() const { return kullanıcı_; }
+
+    /// Throws 3420 after Close.
+    UserCollection Users() const;
+    /// An account yet to be given to Users().Append.
+    User CreateUser(const QString& ad) const { return User(ad); }
+
+    /// Opens a library. Throws 3031 for a wrong password, 3045 when it can't be opened alone though
+    /// that was asked for, 3343 or 3041 when it is no library or a later program's, and what
+    /// Bağlantı's constructor throws.
+    /// @param bağlantıMetni ";PWD=..." with the keyword in any letter case
+    Database OpenDatabase(const QString& yol, bool tekBaşına, bool saltOku, const QString& bağlantıMetni) const;
+
+    void Close();
+
+private:
+    ÇalışmaGrubu& grup() const;
+
+    std::unique_ptr<ÇalışmaGrubu> grup_;
+    QString ad_, kullanıcı_;
+};

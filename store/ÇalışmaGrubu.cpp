@@ -1,0 +1,139 @@
+#include "store/ÇalışmaGrubu.h"
+
+#include "store/DosyaTanıma.h"
+#include "store/Workspace.h"
+
+#include <QCryptographicHash>
+#include <QMessageAuthenticationCode>
+#include <QRandomGenerator>
+
+namespace {
+
+constexpr int BiçimSürümü = 1;
+constexpr int TuzBoyu = 16;
+constexpr qint64 SahipRolü = 1;
+constexpr qint64 KullanıcıRolü = 0;
+
+// Keyed with a constant: the file guards against a curious glance and against damage, since every page
+// carries a check value; its accounts are fixed in the program anyway.
+Anahtar grupAnahtarı()
+{
+    return {AnahtarTürü::HamAnahtar,
+            QCryptographicHash::hash("Belgenar/Makale.tps/1", QCryptographicHash::Sha256)};
+}
+
+QByteArray özet(const QByteArray& tuz, const QString& parola)
+{
+    return QMessageAuthenticationCode::hash(parola.toUtf8(), tuz, QCryptographicHash::Sha256);
+}
+
+QByteArray yeniTuz()
+{
+    QByteArray tuz(TuzBoyu, Qt::Uninitialized);
+    for (char& bayt : tuz)
+        bayt = static_cast<char>(QRandomGenerator::system()->bounded(256));
+    return tuz;
+}
+
+QByteArray baytlar(const Deyim& deyim, int sütun)
+{
+    const std::string_view değer = deyim.Baytlar(sütun);
+    return {değer.data(), static_cast<qsizetype>(değer.size())};
+}
+
+bool parolaUyar(Deyim& tuzVeÖzet, const QString& parola)
+{
+    return tuzVeÖzet.Adım() && özet(baytlar(tuzVeÖzet, 0), parola) == baytlar(tuzVeÖzet, 1);
+}
+
+void hesapYaz(Bağlantı& bağlantı, const User& hesap, qint64 rol)
+{
+    const QByteArray tuz = yeniTuz();
+    Deyim(bağlantı, "INSERT INTO Hesaplar(Ad, Pid, Rol, Tuz, Ozet) VALUES(?1, ?2, ?3, ?4, ?5)")
+        .Bağla(1, hesap.Name())
+        .Bağla(2, hesap.PID())
+        .Bağla(3, rol)
+        .Bağla(4, tuz)
+        .Bağla(5, özet(tuz, hesap.Password()))
+        .Çalıştır();
+}
+
+} // namespace
+
+void ÇalışmaGrubu::Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası)
+{
+    Bağlantı bağlantı(yol, grupAnahtarı(), AçmaKipi::Oluştur);
+    İşlem işlem(bağlantı);
+    bağlantı.Çalıştır("CREATE TABLE Hesaplar(Ad TEXT PRIMARY KEY NOT NULL, Pid TEXT NOT NULL,"
+                      " Rol INTEGER NOT NULL, Tuz BLOB NOT NULL, Ozet BLOB NOT NULL)");
+    bağlantı.Çalıştır("CREATE TABLE Kitaplik(Tuz BLOB NOT NULL, Ozet BLOB NOT NULL)");
+    bağlantı.Çalıştır("PRAGMA user_version=" + QByteArray::number(BiçimSürümü));
+    hesapYaz(bağlantı, sahip, SahipRolü);
+    const QByteArray tuz = yeniTuz();
+    Deyim(bağlantı, "INSERT INTO Kitaplik(Tuz, Ozet) VALUES(?1, ?2)")
+        .Bağla(1, tuz)
+        .Bağla(2, özet(tuz, kitaplıkParolası))
+        .Çalıştır();
+    işlem.Onayla();
+}
+
+ÇalışmaGrubu::ÇalışmaGrubu(const QString& yol)
+try : bağlantı_(yol, grupAnahtarı(), AçmaKipi::OkuYaz) {
+    const qint64 sürüm = bağlantı_.Sayı("PRAGMA user_version");
+    if (sürüm > BiçimSürümü)
+        throw VeritabanıHatası(HataNo::SürümYeni, yol);
+    if (bağlantı_.Sayı("SELECT count(*) FROM sqlite_master WHERE name IN('Hesaplar', 'Kitaplik')") != 2)
+        throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
+} catch (const VeritabanıHatası& hata) {
+    throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Numara()), yol);
+}
+
+bool ÇalışmaGrubu::HesapGeçerli(const QString& ad, const QString& parola)
+{
+    Deyim deyim(bağlantı_, "SELECT Tuz, Ozet FROM Hesaplar WHERE Ad=?1");
+    deyim.Bağla(1, ad);
+    return parolaUyar(deyim, parola);
+}
+
+bool ÇalışmaGrubu::Sahip(const QString& ad)
+{
+    Deyim deyim(bağlantı_, "SELECT Rol FROM Hesaplar WHERE Ad=?1");
+    deyim.Bağla(1, ad);
+    return deyim.Adım() && deyim.Sayı(0) == SahipRolü;
+}
+
+bool ÇalışmaGrubu::KitaplıkParolasıDoğru(const QString& parola)
+{
+    Deyim deyim(bağlantı_, "SELECT Tuz, Ozet FROM Kitaplik");
+    return parolaUyar(deyim, parola);
+}
+
+std::vector<User> ÇalışmaGrubu::Hesaplar()
+{
+    std::vector<User> hesaplar;
+    Deyim deyim(bağlantı_, "SELECT Ad, Pid FROM Hesaplar ORDER BY Ad");
+    while (deyim.Adım()) {
+        User& hesap = hesaplar.emplace_back(deyim.Metin(0));
+        hesap.PID(deyim.Metin(1));
+    }
+    return hesaplar;
+}
+
+void ÇalışmaGrubu::Ekle(const User& hesap)
+{
+    İşlem işlem(bağlantı_);
+    Deyim varMı(bağlantı_, "SELECT 1 FROM Hesaplar WHERE Ad=?1");
+    varMı.Bağla(1, hesap.Name());
+    if (varMı.Adım())
+        throw VeritabanıHatası(HataNo::HesapVar, hesap.Name());
+    varMı.Sıfırla();
+    hesapYaz(bağlantı_, hesap, KullanıcıRolü);
+    işlem.Onayla();
+}
+
+void ÇalışmaGrubu::Sil(const QString& ad)
+{
+    Deyim(bağlantı_, "DELETE FROM Hesaplar WHERE Ad=?1").Bağla(1, ad).Çalıştır();
+    if (bağlantı_.DeğişenSatır() == 0)
+        throw VeritabanıHatası(HataNo::ÖğeYok, ad);
+}
