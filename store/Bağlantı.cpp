@@ -49,11 +49,15 @@ void benzer(sqlite3_context* bağlam, int, sqlite3_value** değerler)
         auto* desen = static_cast<BenzerDeseni*>(sqlite3_get_auxdata(bağlam, 0));
         std::unique_ptr<BenzerDeseni> yeni;
         if (!desen) {
-            const std::string_view metin = değerBaytları(değerler[0]);
-            yeni = std::make_unique<BenzerDeseni>(QString::fromUtf8(metin.data(), qsizetype(metin.size())));
+            const std::string_view utf8 = değerBaytları(değerler[0]);
+            yeni = std::make_unique<BenzerDeseni>(QString::fromUtf8(utf8.data(), qsizetype(utf8.size())));
             desen = yeni.get();
         }
-        sqlite3_result_int(bağlam, desen->Uyar(değerBaytları(değerler[1])) ? 1 : 0);
+        const std::string_view metin = değerBaytları(değerler[1]);
+        if (metin.find('\0') != std::string_view::npos) // what a damaged page deciphers to
+            sqlite3_result_error_code(bağlam, SQLITE_CORRUPT);
+        else
+            sqlite3_result_int(bağlam, desen->Uyar(metin) ? 1 : 0);
         if (yeni)
             sqlite3_set_auxdata(bağlam, 0, yeni.release(),
                                 [](void* eski) { delete static_cast<BenzerDeseni*>(eski); });
@@ -149,6 +153,8 @@ void Bağlantı::ilkOkuma()
 void Bağlantı::anahtarıVer(const Anahtar& anahtar)
 {
     const QByteArray değer = anahtarMetni(anahtar);
+    if (değer.isEmpty()) // would be taken for a file in the clear
+        throw VeritabanıHatası(HataNo::ParolaYanlış, yol_);
     denetle(sqlite3_key(db_.get(), değer.constData(), static_cast<int>(değer.size())));
     if (Metin("PRAGMA cipher_version").startsWith(u'4')) // the files are version 3's
         Sayı("PRAGMA cipher_compatibility=3");
@@ -192,7 +198,9 @@ void Bağlantı::hataVer(int durum, bool adımda) const
     if (ileti.startsWith("no such column"))
         throw VeritabanıHatası(HataNo::AlanYok, QString::fromUtf8(ileti.mid(16)));
     // A page that does not decipher is reported as a plain error while a statement runs.
-    throw VeritabanıHatası(adımda ? HataNo::DosyaBozuk : HataNo::Sözdizimi, adımda ? yol_ : QString());
+    if (adımda && ileti == sqlite3_errstr(SQLITE_ERROR))
+        throw VeritabanıHatası(HataNo::DosyaBozuk, yol_);
+    throw VeritabanıHatası(HataNo::Sözdizimi);
 }
 
 void Bağlantı::denetle(int durum) const
@@ -325,8 +333,16 @@ qint64 Deyim::Sayı(int sütun) const
 
 QString Deyim::Metin(int sütun) const
 {
-    const std::string_view baytlar = Baytlar(sütun);
-    return QString::fromUtf8(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+    const std::string_view utf8 = Yazı(sütun);
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::string_view Deyim::Yazı(int sütun) const
+{
+    const std::string_view utf8 = Baytlar(sütun);
+    if (utf8.find('\0') != std::string_view::npos)
+        throw VeritabanıHatası(HataNo::DosyaBozuk, bağlantı_.yol_);
+    return utf8;
 }
 
 std::string_view Deyim::Baytlar(int sütun) const

@@ -98,6 +98,9 @@ public:
     /// Columns count from 0.
     qint64 Sayı(int sütun) const;
     QString Metin(int sütun) const;
+    /// A text's UTF-8 bytes, valid until the next step. Throws 3049 where they can't be read, or hold NUL,
+    /// which no stored text does: a damaged page deciphers to zeros.
+    std::string_view Yazı(int sütun) const;
     /// The column's bytes as they are stored; valid until the next step. Throws 3049 where they can't
     /// be brought into memory.
     std::string_view Baytlar(int sütun) const;

@@ -4,6 +4,24 @@
 
 #include <algorithm>
 
+namespace {
+
+struct TamHarf
+{
+    char32_t değer; // folded
+    qsizetype boy;  // in units: 2 for a letter beyond the BMP
+};
+
+TamHarf harfOku(QStringView metin, qsizetype yer)
+{
+    const char16_t birim = metin[yer].unicode();
+    if (QChar::isHighSurrogate(birim) && yer + 1 < metin.size() && metin[yer + 1].isLowSurrogate())
+        return {QChar::surrogateToUcs4(birim, metin[yer + 1].unicode()), 2};
+    return {HarfKatla(birim), 1};
+}
+
+} // namespace
+
 BenzerDeseni::BenzerDeseni(QStringView desen)
 {
     for (qsizetype i = 0; i < desen.size(); ++i) {
@@ -34,15 +52,15 @@ BenzerDeseni::BenzerDeseni(QStringView desen)
 std::vector<BenzerDeseni::Aralık> BenzerDeseni::aralıklarıOku(QStringView liste)
 {
     std::vector<Aralık> aralıklar;
-    for (qsizetype i = 0; i < liste.size(); ++i) {
-        const char16_t ilk = HarfKatla(liste[i].unicode());
-        if (i + 2 < liste.size() && liste[i + 1] == u'-') {
-            const char16_t son = HarfKatla(liste[i + 2].unicode());
-            aralıklar.push_back({std::min(ilk, son), std::max(ilk, son)});
-            i += 2;
-        } else {
-            aralıklar.push_back({ilk, ilk});
+    for (qsizetype i = 0; i < liste.size();) {
+        const TamHarf ilk = harfOku(liste, i);
+        i += ilk.boy;
+        TamHarf son = ilk;
+        if (i + 1 < liste.size() && liste[i] == u'-') {
+            son = harfOku(liste, i + 1);
+            i += 1 + son.boy;
         }
+        aralıklar.push_back({std::min(ilk.değer, son.değer), std::max(ilk.değer, son.değer)});
     }
     return aralıklar;
 }
@@ -50,8 +68,7 @@ std::vector<BenzerDeseni::Aralık> BenzerDeseni::aralıklarıOku(QStringView lis
 qsizetype BenzerDeseni::aldığı(const Öğe& öğe, QStringView metin, qsizetype yer)
 {
     const char16_t birim = metin[yer].unicode();
-    const qsizetype boy = QChar::isHighSurrogate(birim) && yer + 1 < metin.size() ? 2 : 1;
-    const auto listede = [&öğe](char16_t harf) {
+    const auto listede = [&öğe](char32_t harf) {
         return std::any_of(öğe.aralıklar.begin(), öğe.aralıklar.end(),
                            [harf](Aralık a) { return a.ilk <= harf && harf <= a.son; });
     };
@@ -59,13 +76,14 @@ qsizetype BenzerDeseni::aldığı(const Öğe& öğe, QStringView metin, qsizety
     case Tür::Harf:
         return HarfKatla(birim) == öğe.harf ? 1 : 0;
     case Tür::TekHarf:
-        return boy;
+        return harfOku(metin, yer).boy;
     case Tür::Rakam:
         return birim >= u'0' && birim <= u'9' ? 1 : 0;
     case Tür::Liste:
-        return listede(HarfKatla(birim)) ? boy : 0;
-    case Tür::DeğilListe:
-        return listede(HarfKatla(birim)) ? 0 : boy;
+    case Tür::DeğilListe: {
+        const TamHarf harf = harfOku(metin, yer);
+        return listede(harf.değer) == (öğe.tür == Tür::Liste) ? harf.boy : 0;
+    }
     case Tür::Hepsi:
         break;
     }
@@ -92,7 +110,8 @@ bool BenzerDeseni::Uyar(QStringView metin) const
             yer += boy;
             ++öğe;
         } else if (yıldızYeri >= 0) {
-            yer = ++yıldızYeri;
+            yıldızYeri += harfOku(metin, yıldızYeri).boy;
+            yer = yıldızYeri;
             öğe = yıldızdanSonra;
         } else {
             return false;

@@ -11,7 +11,7 @@
 class BenzerDeseni
 {
 public:
-    /// An unclosed bracket means itself. [] matches nothing at no place and is passed over.
+    /// An unclosed bracket means itself. [] stands for no letter and is passed over.
     explicit BenzerDeseni(QStringView desen);
 
     /// Whether the whole text fits the pattern.
@@ -22,7 +22,7 @@ private:
     enum class Tür { Harf, TekHarf, Rakam, Liste, DeğilListe, Hepsi };
     struct Aralık
     {
-        char16_t ilk, son; // folded, both included
+        char32_t ilk, son; // folded, both included
     };
     struct Öğe
     {

@@ -8,3 +8,22 @@ Recordset Database::OpenRecordset(const QString& sql) const
         throw VeritabanıHatası(HataNo::NesneKapalı);
     return Recordset(bağlantı_, sql);
 }
+
+void Database::TekİşlemdeYap(const std::function<void()>& iş) const
+{
+    if (!bağlantı_)
+        throw VeritabanıHatası(HataNo::NesneKapalı);
+    try {
+        İşlem işlem(*bağlantı_);
+        iş();
+        işlem.Onayla();
+    } catch (...) {
+        // After a full disk it is the next read that brings the file back.
+        try {
+            bağlantı_->Sayı("SELECT count(*) FROM sqlite_master");
+        } catch (const std::exception&) {
+            // It stays for the next opening.
+        }
+        throw;
+    }
+}

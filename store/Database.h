@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class Bağlantı;
@@ -22,6 +23,11 @@ public:
     /// other a read-only snapshot. Throws 3075 for anything but exactly one SELECT, 3078 and 3061 for
     /// unknown names, 3049 for damage, 3420 after Close.
     Recordset OpenRecordset(const QString& sql) const;
+
+    /// Runs the work in one transaction: all that recordsets of this database change in it stands when it
+    /// returns, nothing of it when it throws; what it throws comes through. Recordsets that took part in
+    /// failed work must not be used again. Throws 3420 after Close, 3045, and 3026 when the disk is full.
+    void TekİşlemdeYap(const std::function<void()>& iş) const;
 
     void Close() { bağlantı_.reset(); }
 

@@ -163,10 +163,8 @@ qint64 TümSatırlarıOku(Bağlantı& kitaplık)
     Deyim deyim(kitaplık, "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
                           " FROM Makaleler NOT INDEXED");
     for (; deyim.Adım(); ++satırlar) {
-        for (int sütun = 0; sütun < int(MakaleSütunları.size()); ++sütun) {
-            if (deyim.Baytlar(sütun).find('\0') != std::string_view::npos)
-                throw VeritabanıHatası(HataNo::DosyaBozuk, kitaplık.Yol());
-        }
+        for (int sütun = 0; sütun < int(MakaleSütunları.size()); ++sütun)
+            deyim.Yazı(sütun);
     }
     return satırlar;
 }

@@ -5,13 +5,14 @@
 
 #include <QString>
 
-/// The file set, all in the program folder.
-namespace KitaplıkDosyaları {
-inline constexpr QStringView Veritabanı = u"Makale.mde";
-inline constexpr QStringView ÇalışmaGrubu = u"Makale.tps";
-/// Target of the compaction; kept until the next start, so that a whole copy exists at every moment.
-inline constexpr QStringView Kopya = u"Makale.md_";
-} // namespace KitaplıkDosyaları
+/// The file set, all in the program folder. No namespace, since moc can't read the name of one.
+struct KitaplıkDosyaları
+{
+    static constexpr QStringView Veritabanı = u"Makale.mde";
+    static constexpr QStringView ÇalışmaGrubu = u"Makale.tps";
+    /// Target of the compaction; kept until the next start, so that a whole copy exists at every moment.
+    static constexpr QStringView Kopya = u"Makale.md_";
+};
 
 /// Creates an empty library and its workgroup file in the folder. Throws 3204 when either exists, and
 /// then creates nothing.

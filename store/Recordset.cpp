@@ -56,9 +56,10 @@ void Field::Value(const QString& değer)
     kayıtlar_.bekleyenDeğer(sütun_, değer);
 }
 
-Recordset::Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sql) : bağlantı_(std::move(bağlantı))
+Recordset::Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sorgu) : bağlantı_(std::move(bağlantı))
 {
-    sorguOlmalı(sql);
+    sorguOlmalı(sorgu);
+    const QString sql = sorgu.normalized(QString::NormalizationForm_C); // as the values in the library
     if (const auto kalan = yıldızdanSonrası(sql)) {
         değiştirilebilir_ = true;
         for (const SütunTanımı& tanım : MakaleSütunları)
@@ -81,7 +82,7 @@ void Recordset::anahtarlarıOku(const QByteArray& sql)
     Deyim deyim(*bağlantı_, sql);
     while (deyim.Adım()) {
         kimlikler_.push_back(deyim.Sayı(0));
-        metinler_.Ekle(deyim.Baytlar(1));
+        metinler_.Ekle(deyim.Yazı(1));
     }
     satırSayısı_ = kimlikler_.size();
 }
@@ -93,7 +94,7 @@ void Recordset::değerleriOku(const QByteArray& sql)
         sütunlar_.push_back(deyim.SütunAdı(i));
     for (; deyim.Adım(); ++satırSayısı_) {
         for (int i = 0; i < deyim.SütunSayısı(); ++i)
-            metinler_.Ekle(deyim.Baytlar(i));
+            metinler_.Ekle(deyim.Yazı(i));
     }
 }
 
@@ -111,12 +112,23 @@ void Recordset::değiştirilebilirOlmalı() const
         throw VeritabanıHatası(HataNo::SaltOkunur);
 }
 
+void Recordset::git(std::size_t yer)
+{
+    CancelUpdate();
+    satır_.reset();
+    yer_ = yer;
+}
+
+void Recordset::MoveFirst()
+{
+    git(0);
+}
+
 void Recordset::MoveNext()
 {
     if (Eof())
         throw VeritabanıHatası(HataNo::KayıtYok);
-    ++yer_;
-    satır_.reset();
+    git(yer_ + 1);
 }
 
 Field Recordset::Fields(QStringView ad)
@@ -153,10 +165,7 @@ QString Recordset::makaleDeğeri(MakaleSütunu sütun)
         Deyim deyim(*bağlantı_, MetinSql);
         if (!deyim.Bağla(1, kimlikler_[yer_]).Adım())
             throw VeritabanıHatası(HataNo::KayıtSilinmiş);
-        const std::string_view baytlar = deyim.Baytlar(0);
-        if (baytlar.find('\0') != std::string_view::npos) // what a damaged page deciphers to
-            throw VeritabanıHatası(HataNo::DosyaBozuk, bağlantı_->Yol());
-        return metin(baytlar);
+        return deyim.Metin(0);
     }
     if (sütun == MakaleSütunu::MakaleBasligi && değişimDamgası_ == bağlantı_->ToplamDeğişim())
         return metin(metinler_[yer_]);
@@ -165,11 +174,12 @@ QString Recordset::makaleDeğeri(MakaleSütunu sütun)
 
 const Recordset::Satır& Recordset::kısaSütunlar()
 {
-    if (!satır_) {
+    const qint64 damga = bağlantı_->ToplamDeğişim();
+    if (!satır_ || satır_->değişimDamgası != damga) {
         Deyim deyim(*bağlantı_, KısaSütunlarSql);
         if (!deyim.Bağla(1, kimlikler_[yer_]).Adım())
             throw VeritabanıHatası(HataNo::KayıtSilinmiş);
-        Satır yeni;
+        Satır yeni{damga, {}};
         for (std::size_t i = 0; i < yeni.değerler.size(); ++i)
             yeni.değerler[i] = deyim.Metin(static_cast<int>(i));
         satır_ = std::move(yeni);
@@ -251,7 +261,6 @@ void Recordset::değiştir()
             deyim.Bağla(static_cast<int>(i) + 1, QStringView(*bekleyenler_[i]));
     }
     deyim.Bağla(6, kimlikler_[yer_]).Çalıştır();
-    satır_.reset();
     if (bağlantı_->DeğişenSatır() == 0)
         throw VeritabanıHatası(HataNo::KayıtSilinmiş);
 }
@@ -271,8 +280,9 @@ void Recordset::Delete()
         throw VeritabanıHatası(HataNo::KayıtSilinmiş);
     Deyim(*bağlantı_, SilSql).Bağla(1, kimlikler_[yer_]).Çalıştır();
     kimlikler_[yer_] = 0;
-    satır_.reset();
     CancelUpdate();
+    if (bağlantı_->DeğişenSatır() == 0) // another recordset was first
+        throw VeritabanıHatası(HataNo::KayıtSilinmiş);
 }
 
 void Recordset::Close()

@@ -62,7 +62,7 @@ private:
 class Recordset
 {
 public:
-    Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sql);
+    Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sorgu);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
@@ -70,7 +70,8 @@ public:
     /// Both are true exactly when there are no rows.
     bool Bof() const { return satırSayısı_ == 0; }
     bool Eof() const { return yer_ >= satırSayısı_; }
-    void MoveFirst() { yer_ = 0; }
+    /// A move drops a pending row, so that it can't be written into another one.
+    void MoveFirst();
     /// Throws 3021 past the end.
     void MoveNext();
     qint64 RecordCount() const { return static_cast<qint64>(satırSayısı_); }
@@ -95,9 +96,11 @@ private:
     enum class Bekleyen { Yok, Ekleme, Değişiklik };
     struct Satır // the current row's short columns
     {
+        qint64 değişimDamgası = 0; // they hold as long as nothing was changed since
         std::array<QString, MakaleSütunları.size() - 1> değerler;
     };
 
+    void git(std::size_t yer);
     void anahtarlarıOku(const QByteArray& sql);
     void değerleriOku(const QByteArray& sql);
     void değiştirilebilirOlmalı() const;

@@ -48,8 +48,11 @@ Database Workspace::OpenDatabase(const QString& yol, bool tekBaşına, bool salt
 {
     auto bağlantı = KitaplıkBağlantısı(yol, BağlantıMetnindenParola(bağlantıMetni),
                                        saltOku ? AçmaKipi::Oku : AçmaKipi::OkuYaz, grup());
-    if (tekBaşına)
+    if (tekBaşına) { // the lock is taken by the first transaction, and kept
         bağlantı->Metin("PRAGMA locking_mode=EXCLUSIVE");
+        bağlantı->Çalıştır("BEGIN EXCLUSIVE");
+        bağlantı->Çalıştır("COMMIT");
+    }
     return Database(std::move(bağlantı));
 }
 

@@ -1,0 +1,82 @@
+#include "app/Görünüm.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr std::array<int, 5> boyutlar = {8, 10, 11, 12, 14};
+// The second one carries the name of orange in the list and is magenta on the screen; users know it so.
+constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00, 0x00FFFF, DüğmeYüzüRengi};
+
+constexpr Renk SistemRengi = 0x80000000;
+constexpr double TwipİnçBaşına = 1440.0;
+constexpr double OlağanNokta = 96.0;
+
+template<class Tablo>
+auto tablodan(const Tablo& tablo, qint16 sıra)
+{
+    return sıra >= 0 && static_cast<std::size_t>(sıra) < tablo.size()
+               ? tablo[static_cast<std::size_t>(sıra)]
+               : typename Tablo::value_type(0);
+}
+
+double nokta()
+{
+    const QScreen* ekran = QGuiApplication::primaryScreen();
+    return ekran ? ekran->logicalDotsPerInch() : OlağanNokta;
+}
+
+} // namespace
+
+int YazıBoyutu(qint16 sıra)
+{
+    return tablodan(boyutlar, sıra);
+}
+
+Renk ZeminRengi(qint16 sıra)
+{
+    return tablodan(renkler, sıra);
+}
+
+QColor EkranRengi(Renk renk, const QPalette& palet)
+{
+    if (renk & SistemRengi) {
+        switch (renk) {
+        case DüğmeYüzüRengi:
+            return palet.color(QPalette::Button);
+        case PencereZeminiRengi:
+            return palet.color(QPalette::Base);
+        default:
+            return palet.color(QPalette::ButtonText);
+        }
+    }
+    return QColor(int(renk & 0xff), int((renk >> 8) & 0xff), int((renk >> 16) & 0xff));
+}
+
+QColor OkunurYazıRengi(const QColor& zemin)
+{
+    // Weights of ITU-R BT.601, which is what the eye's own weighting comes to.
+    const double ışıklılık = 0.299 * zemin.red() + 0.587 * zemin.green() + 0.114 * zemin.blue();
+    return ışıklılık < 96 ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+QFont FormYazıTipi()
+{
+    QFont yazıTipi(QStringLiteral("Liberation Sans"), 9);
+    yazıTipi.setStyleHint(QFont::SansSerif);
+    return yazıTipi;
+}
+
+int Piksel(double twip)
+{
+    return static_cast<int>(std::lround(twip * nokta() / TwipİnçBaşına));
+}
+
+int Twip(int piksel)
+{
+    return static_cast<int>(std::lround(piksel * TwipİnçBaşına / nokta()));
+}

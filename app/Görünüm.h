@@ -1,0 +1,31 @@
+// Sizes, colours and the measure of all windows.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+/// 0x00BBGGRR, or 0x80000000 plus the number of a system colour.
+using Renk = quint32;
+
+inline constexpr Renk OdakMavisi = 0xFF0000;        ///< caption label of the field that has the focus
+inline constexpr Renk PencereZeminiRengi = 0x80000005; ///< system colour of fields
+inline constexpr Renk DüğmeYüzüRengi = 0x8000000F;  ///< system colour of button faces
+
+/// Point size of an index of the size list (8 to 14); 0 for an index outside the list.
+int YazıBoyutu(qint16 sıra);
+/// Colour of an index of the background-colour list; 0 for an index outside the list.
+Renk ZeminRengi(qint16 sıra);
+
+/// System colours come from the palette.
+QColor EkranRengi(Renk renk, const QPalette& palet);
+/// Black or white, whichever reads better on the background.
+QColor OkunurYazıRengi(const QColor& zemin);
+
+/// The font of the windows' own controls; its sizes are laid out for it.
+QFont FormYazıTipi();
+
+/// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots, more dots where the user
+/// has larger text, so that windows grow with their fonts.
+int Piksel(double twip);
+int Twip(int piksel);

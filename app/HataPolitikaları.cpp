@@ -1,0 +1,58 @@
+#include "app/HataPolitikaları.h"
+
+#include "app/Metinler.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "app/İletiKutusu.h"
+#include "store/VeritabanıHatası.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+// The customary numbers of run-time errors that do not come from the store.
+constexpr int YetersizBellek = 7;
+constexpr int İçHata = 51;
+
+} // namespace
+
+HataBilgisi ŞimdikiHata()
+{
+    try {
+        throw;
+    } catch (const VeritabanıHatası& hata) {
+        return {static_cast<int>(hata.Numara()), hata.Açıklama()};
+    } catch (const std::bad_alloc&) {
+        return {YetersizBellek, QStringLiteral("Yetersiz bellek.")};
+    } catch (const std::exception& hata) {
+        return {İçHata, QStringLiteral("İç hata: %1").arg(QString::fromUtf8(hata.what()))};
+    } catch (...) {
+        return {İçHata, QStringLiteral("İç hata.")};
+    }
+}
+
+void HataBildirVeÇık(const HataBilgisi& hata)
+{
+    std::fprintf(stderr, "belgenar: %d %s\n", hata.Numara, qUtf8Printable(hata.Açıklama));
+    İletiGöster(QStringLiteral("%1\n\n%2 %3\n\n%4 %5")
+                    .arg(Metin(10), Metin(15), QString::number(hata.Numara), Metin(20), hata.Açıklama),
+                İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
+    ProgramıBitir(1);
+}
+
+void ProgramıBitir(int durum)
+{
+    Veritabanı.reset();
+    ÇalışmaAlanı.reset();
+    Motor.reset();
+    std::fflush(nullptr);
+    std::_Exit(durum);
+}
+
+void HatayıGünlüğeYaz(const char* işleyici)
+{
+    const HataBilgisi hata = ŞimdikiHata();
+    std::fprintf(stderr, "belgenar: %s: %d %s\n", işleyici ? işleyici : "-", hata.Numara,
+                 qUtf8Printable(hata.Açıklama));
+}

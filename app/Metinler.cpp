@@ -1,0 +1,46 @@
+#include "app/Metinler.h"
+
+#include <QFile>
+#include <QHash>
+
+static void kaynaklarıBağla()
+{
+    Q_INIT_RESOURCE(metinler); // must stand outside any namespace
+}
+
+namespace {
+
+QHash<int, QString> tabloyuOku()
+{
+    kaynaklarıBağla();
+    QFile dosya(QStringLiteral(":/belgenar/metinler.tsv"));
+    if (!dosya.open(QIODevice::ReadOnly))
+        qFatal("The table of texts is missing");
+    QHash<int, QString> tablo;
+    const QStringList satırlar = QString::fromUtf8(dosya.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& satır : satırlar) {
+        const qsizetype ayraç = satır.indexOf(u'\t');
+        tablo.insert(satır.left(ayraç).toInt(), satır.mid(ayraç + 1).replace(QLatin1String("\\n"), QLatin1String("\n")));
+    }
+    return tablo;
+}
+
+} // namespace
+
+QString Metin(int numara)
+{
+    static const QHash<int, QString> tablo = tabloyuOku();
+    const auto yer = tablo.constFind(numara);
+    if (yer == tablo.constEnd())
+        qFatal("The table of texts has no number %d", numara);
+    return *yer;
+}
+
+QString SadeMetin(int numara)
+{
+    QString metin = Metin(numara);
+    metin.remove(u'&');
+    while (metin.endsWith(u'.'))
+        metin.chop(1);
+    return metin;
+}

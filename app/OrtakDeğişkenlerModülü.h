@@ -1,0 +1,27 @@
+// What all windows share. Set during start-up unless said otherwise.
+#pragma once
+
+#include "store/DBEngine.h"
+
+#include <QString>
+
+#include <optional>
+
+extern QString AnaPencereBaşlığı; ///< caption of the main window; also what a second start looks for
+extern QString AyarUygulamaAdı;   ///< application name under which the settings are kept
+extern QString ProgramKlasörü;    ///< folder of the executable and the library, with a separator at its end
+extern bool NTPlatformu;          ///< what the system said of itself
+
+/// The library; open from start-up to the exit sequence. Released in this order: database, workspace,
+/// engine (which holds the library's lock).
+extern std::optional<DBEngine> Motor;
+extern std::optional<Workspace> ÇalışmaAlanı;
+extern std::optional<Database> Veritabanı;
+
+/// How the article text is shown; read when the main window loads, changed by the settings window.
+extern QString MakaleYazıTipi;
+extern qint16 YazıBoyutuSırası; ///< index for YazıBoyutu
+extern qint16 ZeminRengiSırası; ///< index for ZeminRengi
+
+/// "1.00": major, point, then minor and revision side by side.
+QString SürümMetni();

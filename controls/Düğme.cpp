@@ -1,0 +1,24 @@
+#include "controls/Düğme.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+void Düğme::paintEvent(QPaintEvent*)
+{
+    QStylePainter ressam(this);
+    QStyleOptionButton seçenek;
+    initStyleOption(&seçenek);
+    const QString yazı = seçenek.text;
+    seçenek.text.clear();
+    ressam.drawControl(QStyle::CE_PushButton, seçenek);
+
+    QRect yer = style()->subElementRect(QStyle::SE_PushButtonContents, &seçenek, this);
+    if (seçenek.state & (QStyle::State_Sunken | QStyle::State_On))
+        yer.translate(style()->pixelMetric(QStyle::PM_ButtonShiftHorizontal, &seçenek, this),
+                      style()->pixelMetric(QStyle::PM_ButtonShiftVertical, &seçenek, this));
+    const bool altÇizgi = style()->styleHint(QStyle::SH_UnderlineShortcut, &seçenek, this) != 0;
+    style()->drawItemText(&ressam, yer,
+                          Qt::AlignCenter | Qt::TextWordWrap
+                              | (altÇizgi ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                          seçenek.palette, isEnabled(), yazı, QPalette::ButtonText);
+}

@@ -1,0 +1,173 @@
+#include "controls/ListeKutusu.h"
+
+#include "text/TürkçeHarfler.h"
+
+#include <QAbstractListModel>
+#include <QApplication>
+#include <QDateTime>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+
+namespace {
+
+constexpr int SatırBoşluğu = 3; // pixels between two lines of text
+
+} // namespace
+
+class ListeKutusu::Model : public QAbstractListModel
+{
+public:
+    explicit Model(const ListeKutusu& liste) : liste_(liste) {}
+
+    int rowCount(const QModelIndex& üst = {}) const override
+    {
+        return üst.isValid() ? 0 : static_cast<int>(metinler_.size());
+    }
+    QVariant data(const QModelIndex& yer, int rol) const override
+    {
+        if (rol == Qt::DisplayRole)
+            return metinler_[yer.row()];
+        if (rol == Qt::SizeHintRole) // no width of its own: entries are as wide as the box, and cut there
+            return QSize(1, liste_.fontMetrics().height() + SatırBoşluğu);
+        return {};
+    }
+    void ekle(const QStringList& yeni)
+    {
+        if (yeni.isEmpty())
+            return;
+        const int ilk = static_cast<int>(metinler_.size());
+        beginInsertRows({}, ilk, ilk + static_cast<int>(yeni.size()) - 1);
+        metinler_ += yeni;
+        endInsertRows();
+    }
+    void boşalt()
+    {
+        beginResetModel();
+        metinler_.clear();
+        endResetModel();
+    }
+    const QStringList& metinler() const { return metinler_; }
+
+private:
+    const ListeKutusu& liste_;
+    QStringList metinler_;
+};
+
+ListeKutusu::ListeKutusu(QWidget* üst) : QListView(üst), model_(std::make_unique<Model>(*this))
+{
+    setModel(model_.get());
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+}
+
+ListeKutusu::~ListeKutusu()
+{
+    sessiz_ = true;
+    setModel(nullptr);
+}
+
+int ListeKutusu::ListCount() const
+{
+    return static_cast<int>(model_->metinler().size());
+}
+
+int ListeKutusu::ListIndex() const
+{
+    const QModelIndex yer = currentIndex();
+    return yer.isValid() ? yer.row() : -1;
+}
+
+void ListeKutusu::ListIndex(int sıra)
+{
+    setCurrentIndex(sıra >= 0 && sıra < ListCount() ? model_->index(sıra) : QModelIndex());
+    if (ListIndex() < 0)
+        clearSelection();
+}
+
+QString ListeKutusu::Text() const
+{
+    return Item(ListIndex());
+}
+
+QString ListeKutusu::Item(int sıra) const
+{
+    return model_->metinler().value(sıra);
+}
+
+void ListeKutusu::AddItem(const QString& metin)
+{
+    model_->ekle({metin});
+}
+
+void ListeKutusu::AddItems(const QStringList& metinler)
+{
+    model_->ekle(metinler);
+}
+
+void ListeKutusu::Clear()
+{
+    sessiz_ = true;
+    model_->boşalt();
+    sessiz_ = false;
+}
+
+int ListeKutusu::ÖnekleBul(QStringView baş) const
+{
+    const QStringList& metinler = model_->metinler();
+    const auto yer = std::find_if(metinler.begin(), metinler.end(),
+                                  [baş](const QString& metin) { return İleBaşlar(metin, baş); });
+    return yer == metinler.end() ? -1 : static_cast<int>(yer - metinler.begin());
+}
+
+// The view's own search doesn't know Turkish letters.
+void ListeKutusu::keyboardSearch(const QString& harf)
+{
+    const qint64 an = QDateTime::currentMSecsSinceEpoch();
+    if (an - sonArama_ > QApplication::keyboardInputInterval())
+        aranan_.clear();
+    sonArama_ = an;
+    aranan_ += harf;
+    if (const int sıra = ÖnekleBul(aranan_); sıra >= 0)
+        ListIndex(sıra);
+}
+
+void ListeKutusu::currentChanged(const QModelIndex& şimdiki, const QModelIndex& önceki)
+{
+    QListView::currentChanged(şimdiki, önceki);
+    if (!sessiz_ && şimdiki.isValid() && Click)
+        Click();
+}
+
+void ListeKutusu::mousePressEvent(QMouseEvent* olay)
+{
+    const int önceki = ListIndex();
+    const bool yine = olay->button() == Qt::LeftButton && önceki >= 0
+                      && indexAt(olay->position().toPoint()).row() == önceki;
+    QListView::mousePressEvent(olay);
+    if (yine && Click)
+        Click();
+}
+
+// The view would make the first entry current; coming here with the Tab key must not choose anything.
+void ListeKutusu::focusInEvent(QFocusEvent* olay)
+{
+    QAbstractScrollArea::focusInEvent(olay);
+    viewport()->update();
+}
+
+bool ListeKutusu::viewportEvent(QEvent* olay)
+{
+    if (olay->type() == QEvent::ToolTip) {
+        const auto* yardım = static_cast<QHelpEvent*>(olay);
+        const QModelIndex yer = indexAt(yardım->pos());
+        const QString metin = yer.isValid() ? Item(yer.row()) : QString();
+        const bool kesik = fontMetrics().horizontalAdvance(metin) > viewport()->width() - 2 * SatırBoşluğu;
+        QToolTip::showText(yardım->globalPos(), kesik ? metin.toHtmlEscaped().prepend(QLatin1String("<p>")) : QString(),
+                           viewport());
+        return true;
+    }
+    return QListView::viewportEvent(olay);
+}

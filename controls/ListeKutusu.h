@@ -1,0 +1,56 @@
+// The list box.
+#pragma once
+
+#include <QListView>
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+#include <functional>
+#include <memory>
+
+/// A list of texts of which at most one is selected. Indices count from 0; -1 is no selection. Quick
+/// with 100,000 entries; an entry too wide for the box is cut and shown whole as a tip.
+class ListeKutusu : public QListView
+{
+public:
+    explicit ListeKutusu(QWidget* üst = nullptr);
+    ~ListeKutusu() override;
+
+    /// The selected entry changed to another one, by hand or by code, or was pressed again.
+    std::function<void()> Click;
+
+    int ListCount() const;
+    int ListIndex() const;
+    /// Selects an entry; an index outside the list selects none. Fires Click when another entry is
+    /// selected than before.
+    void ListIndex(int sıra);
+
+    /// The selected entry, "" when there is none.
+    QString Text() const;
+    QString Item(int sıra) const;
+
+    void AddItem(const QString& metin);
+    void AddItems(const QStringList& metinler);
+    /// Empties the list; fires nothing.
+    void Clear();
+
+    /// Index of the first entry that begins with the text, without regard to case; -1 when none does.
+    int ÖnekleBul(QStringView baş) const;
+
+    void keyboardSearch(const QString& harf) override;
+
+protected:
+    void currentChanged(const QModelIndex& şimdiki, const QModelIndex& önceki) override;
+    void mousePressEvent(QMouseEvent* olay) override;
+    void focusInEvent(QFocusEvent* olay) override;
+    bool viewportEvent(QEvent* olay) override;
+
+private:
+    class Model;
+
+    std::unique_ptr<Model> model_;
+    QString aranan_;      // what was typed to find an entry
+    qint64 sonArama_ = 0; // ms of the steady clock
+    bool sessiz_ = false; // the selection changes without Click
+};

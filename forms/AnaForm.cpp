@@ -1,0 +1,337 @@
+#include "forms/AnaForm.h"
+
+#include "app/Ayarlar.h"
+#include "app/HataPolitikaları.h"
+#include "app/Metinler.h"
+#include "app/OrtakApilerModülü.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+#include <QStringList>
+
+namespace {
+
+constexpr int SınırlamaAralığı = 1000;  // ms
+constexpr int İletiAralığı = 20;        // ms between two looks at the window's messages during long work
+constexpr int DolduranParça = 512;      // rows between two looks at the clock
+constexpr int OlağanGenişlik = 12000;   // twips
+constexpr int OlağanYükseklik = 9000;
+constexpr double EnUzakKonum = 1000000; // twips; what a stored position may be at most
+constexpr double TamEkranDeğeri = 2;
+
+QString toplam(int sayı)
+{
+    return Metin(150) + u' ' + QString::number(sayı);
+}
+
+} // namespace
+
+AnaForm::AnaForm() : yüzey_(new QWidget(this))
+{
+    setObjectName(QStringLiteral("AnaForm"));
+    kontrolleriKur();
+    menüleriKur();
+    sekmeSırasıKur();
+    olaylarıBağla();
+    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+}
+
+AnaForm::~AnaForm() = default;
+
+void AnaForm::kontrolleriKur()
+{
+    yüzey_->setFont(FormYazıTipi());
+    setCentralWidget(yüzey_);
+
+    const auto adlandır = [this](QWidget& kontrol, const QString& ad, QWidget* üst = nullptr) {
+        kontrol.setObjectName(ad);
+        kontrol.setParent(üst ? üst : yüzey_);
+    };
+    adlandır(Altlık, QStringLiteral("Altlık"));
+    for (std::size_t i = 0; i < Etiket.size(); ++i)
+        adlandır(Etiket[i], QStringLiteral("Etiket%1").arg(i));
+    adlandır(YazarListesi, QStringLiteral("YazarListesi"), &Altlık);
+    adlandır(ToplamYazarSayısıEtiketi, QStringLiteral("ToplamYazarSayısıEtiketi"));
+    adlandır(YazarBulKutusu, QStringLiteral("YazarBulKutusu"));
+    adlandır(MakaleListesi, QStringLiteral("MakaleListesi"));
+    adlandır(ToplamMakaleSayısıEtiketi, QStringLiteral("ToplamMakaleSayısıEtiketi"));
+    adlandır(MakaleBulKutusu, QStringLiteral("MakaleBulKutusu"));
+    adlandır(MakaleMetniKutusu, QStringLiteral("MakaleMetniKutusu"));
+    adlandır(BulKutusu, QStringLiteral("BulKutusu"));
+    adlandır(BulButonu, QStringLiteral("BulButonu"));
+    adlandır(TemizleButonu, QStringLiteral("TemizleButonu"));
+    adlandır(TümündeBulButonu, QStringLiteral("TümündeBulButonu"));
+    adlandır(ÇıkışButonu, QStringLiteral("ÇıkışButonu"));
+    adlandır(YazdırKutusu, QStringLiteral("YazdırKutusu"));
+
+    YazdırKutusu.hide();
+    MakaleMetniKutusu.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    MakaleMetniKutusu.setContextMenuPolicy(Qt::PreventContextMenu);
+    for (QLabel* etiket : {&ToplamYazarSayısıEtiketi, &ToplamMakaleSayısıEtiketi})
+        etiket->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (QPushButton* düğme : {&BulButonu, &TemizleButonu, &TümündeBulButonu})
+        düğme->setEnabled(false);
+    Sınırla.setInterval(SınırlamaAralığı);
+}
+
+void AnaForm::menüleriKur()
+{
+    const auto adlandır = [](QObject& öğe, const QString& ad) { öğe.setObjectName(ad); };
+    adlandır(MakaleMenüsü, QStringLiteral("MakaleMenüsü"));
+    adlandır(MakaleEkleMenüsü, QStringLiteral("MakaleEkleMenüsü"));
+    adlandır(MakeleDeğiştirMenüsü, QStringLiteral("MakeleDeğiştirMenüsü"));
+    adlandır(MakaleSilMenüsü, QStringLiteral("MakaleSilMenüsü"));
+    adlandır(ReferansOluşturMenüsü, QStringLiteral("ReferansOluşturMenüsü"));
+    adlandır(MakaleMetniMenüsü, QStringLiteral("MakaleMetniMenüsü"));
+    adlandır(TümünüSeçMenüsü, QStringLiteral("TümünüSeçMenüsü"));
+    adlandır(KopyalaMenüsü, QStringLiteral("KopyalaMenüsü"));
+    adlandır(YazdırMenüsü, QStringLiteral("YazdırMenüsü"));
+    adlandır(WordeYapıştırMenüsü, QStringLiteral("WordeYapıştırMenüsü"));
+    adlandır(AyarlarMenüsü, QStringLiteral("AyarlarMenüsü"));
+    adlandır(AyarlarMenüsü1, QStringLiteral("AyarlarMenüsü1"));
+    adlandır(YardımMenüsü, QStringLiteral("YardımMenüsü"));
+    adlandır(İçindekilerMenüsü, QStringLiteral("İçindekilerMenüsü"));
+    adlandır(DizinMenüsü, QStringLiteral("DizinMenüsü"));
+    adlandır(HatalarıBildirinMenüsü, QStringLiteral("HatalarıBildirinMenüsü"));
+    adlandır(HakkındaMenüsü, QStringLiteral("HakkındaMenüsü"));
+    adlandır(MenüÇizgisi2, QStringLiteral("MenüÇizgisi2"));
+    adlandır(MenüÇizgisi3, QStringLiteral("MenüÇizgisi3"));
+    MenüÇizgisi2.setSeparator(true);
+    MenüÇizgisi3.setSeparator(true);
+
+    menuBar()->setNativeMenuBar(false);
+    menuBar()->addMenu(&MakaleMenüsü);
+    MakaleMenüsü.addActions({&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü,
+                             &ReferansOluşturMenüsü});
+    menuBar()->addAction(&AyarlarMenüsü);
+    menuBar()->addMenu(&YardımMenüsü);
+    YardımMenüsü.addActions({&İçindekilerMenüsü, &DizinMenüsü, &MenüÇizgisi3, &HatalarıBildirinMenüsü,
+                             &HakkındaMenüsü});
+    MakaleMetniMenüsü.addActions({&TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
+                                  &MenüÇizgisi2, &AyarlarMenüsü1});
+
+    // Nothing answers these yet.
+    for (QAction* öğe : {&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü, &ReferansOluşturMenüsü,
+                         &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
+                         &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü,
+                         &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+        öğe->setEnabled(false);
+}
+
+void AnaForm::sekmeSırasıKur()
+{
+    const std::array<QWidget*, 6> bağlılar = {&YazarListesi,    &YazarBulKutusu,    &MakaleListesi,
+                                              &MakaleBulKutusu, &MakaleMetniKutusu, &BulKutusu};
+    for (std::size_t i = 0; i < bağlılar.size(); ++i)
+        Etiket[i].setBuddy(bağlılar[i]);
+
+    QWidget* önceki = &YazarListesi;
+    for (QWidget* sonraki : std::initializer_list<QWidget*>{
+             &YazarBulKutusu, &MakaleListesi, &MakaleBulKutusu, &MakaleMetniKutusu, &BulKutusu, &BulButonu,
+             &TemizleButonu, &TümündeBulButonu, &ÇıkışButonu}) {
+        setTabOrder(önceki, sonraki);
+        önceki = sonraki;
+    }
+}
+
+void AnaForm::olaylarıBağla()
+{
+    YazarListesi.Click = [this] { YazarListesi_Click(); };
+    MakaleListesi.Click = [this] { MakaleListesi_Click(); };
+    connect(&ÇıkışButonu, &QPushButton::clicked, this, &AnaForm::ÇıkışButonu_Click);
+    connect(&Sınırla, &QTimer::timeout, this, &AnaForm::Sınırla_Timer);
+    auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(esc, &QShortcut::activated, &ÇıkışButonu, &QPushButton::click);
+}
+
+void AnaForm::Göster(const std::function<void()>& yüklendi)
+{
+    Form_Load();
+    const QPoint yer = pos();
+    const bool olağan = !isMaximized();
+    show();
+    QCoreApplication::processEvents();
+    if (olağan) // a position given before the window has its frame is off by the frame
+        move(yer);
+    if (yüklendi)
+        yüklendi();
+    ÖneGetir();
+    Sınırla.start();
+}
+
+void AnaForm::Form_Load()
+{
+    TürkçeKarakterKümesiUygula(*this);
+    Altlık.setPalette(palette());
+    setWindowTitle(AnaPencereBaşlığı);
+    başlıklarıKoy();
+    pencereDurumunuOku();
+    görünümAyarlarınıOku();
+    YazarListesiYükle();
+    sonYazarıSeç();
+    toplamlarıYaz();
+    YazarListesi.setFocus();
+}
+
+void AnaForm::başlıklarıKoy()
+{
+    MakaleMenüsü.setTitle(Metin(65));
+    MakaleEkleMenüsü.setText(Metin(70));
+    MakeleDeğiştirMenüsü.setText(Metin(72));
+    MakaleSilMenüsü.setText(Metin(75));
+    TümünüSeçMenüsü.setText(Metin(85));
+    KopyalaMenüsü.setText(Metin(90));
+    YazdırMenüsü.setText(Metin(95));
+    WordeYapıştırMenüsü.setText(Metin(100));
+    ReferansOluşturMenüsü.setText(Metin(110));
+    AyarlarMenüsü.setText(Metin(115));
+    AyarlarMenüsü1.setText(Metin(115));
+    YardımMenüsü.setTitle(Metin(120));
+    İçindekilerMenüsü.setText(Metin(125));
+    DizinMenüsü.setText(Metin(130));
+    HatalarıBildirinMenüsü.setText(Metin(135));
+    HakkındaMenüsü.setText(Metin(140));
+
+    constexpr std::array<int, 6> etiketler = {145, 155, 160, 165, 170, 175};
+    for (std::size_t i = 0; i < etiketler.size(); ++i) {
+        Etiket[i].setText(Metin(etiketler[i]));
+        Etiket[i].buddy()->setAccessibleName(SadeMetin(etiketler[i]));
+    }
+    BulButonu.setText(Metin(180));
+    TemizleButonu.setText(Metin(185));
+    TümündeBulButonu.setText(Metin(190));
+    ÇıkışButonu.setText(Metin(195));
+}
+
+void AnaForm::pencereDurumunuOku()
+{
+    if (SayıAyarıOku(u"Tam Ekran", TamEkranDeğeri) == TamEkranDeğeri) {
+        setWindowState(Qt::WindowMaximized);
+        return;
+    }
+    setWindowState(Qt::WindowNoState);
+    const QSize ekran = screen()->virtualGeometry().size();
+    const auto konum = [](QStringView anahtar, int ekranBoyu, int boy) {
+        const double sayı = SayıAyarıOku(anahtar, (Twip(ekranBoyu) - Twip(boy)) / 2);
+        return Piksel(std::clamp(sayı, -EnUzakKonum, EnUzakKonum));
+    };
+    move(konum(u"Sol", ekran.width(), width()), konum(u"Ust", ekran.height(), height()));
+}
+
+void AnaForm::görünümAyarlarınıOku()
+{
+    MakaleYazıTipi = AyarOku(u"Yazi Tipi", yüzey_->font().family());
+    YazıBoyutuSırası = SıraSayısı(SayıAyarıOku(u"Yazi Boyutu", 2));
+    ZeminRengiSırası = SıraSayısı(SayıAyarıOku(u"Zemin Rengi", 0));
+}
+
+void AnaForm::YazarListesiYükle()
+{
+    Recordset kayıtlar = Veritabanı->OpenRecordset(
+        QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler] ORDER BY [YazarAdi] ASC"));
+    if (kayıtlar.Bof() && kayıtlar.Eof())
+        return;
+    QStringList yazarlar;
+    for (kayıtlar.MoveFirst(); !kayıtlar.Eof(); kayıtlar.MoveNext())
+        yazarlar.append(kayıtlar.Fields(u"YazarAdi").Value());
+    YazarListesi.Clear();
+    YazarListesi.AddItems(yazarlar);
+}
+
+void AnaForm::sonYazarıSeç()
+{
+    const double sıra = SayıAyarıOku(u"Son Yazar", 0);
+    if (sıra >= 0 && sıra <= YazarListesi.ListCount() - 1)
+        YazarListesi.ListIndex(static_cast<int>(sıra));
+}
+
+void AnaForm::toplamlarıYaz()
+{
+    ToplamYazarSayısıEtiketi.setText(toplam(YazarListesi.ListCount()));
+    makaleToplamınıYaz();
+}
+
+void AnaForm::makaleToplamınıYaz()
+{
+    ToplamMakaleSayısıEtiketi.setText(toplam(MakaleListesi.ListCount()));
+}
+
+void AnaForm::YazarListesi_Click()
+{
+    if (!Altlık.isEnabled())
+        return;
+    const bool tamam = Olay("YazarListesi_Click", [this] {
+        Recordset kayıtlar = Veritabanı->OpenRecordset(
+            QStringLiteral("SELECT * FROM [Makaleler] WHERE [YazarAdi]='") + YazarListesi.Text() + u'\'');
+        if (!kayıtlar.Eof() && !makaleListesiniDoldur(kayıtlar))
+            return;
+        makaleToplamınıYaz();
+    });
+    if (!tamam)
+        makaleleriBoşalt();
+}
+
+bool AnaForm::makaleListesiniDoldur(Recordset& kayıtlar)
+{
+    const int bu = ++doldurma_;
+    MakaleListesi.Clear();
+    QElapsedTimer saat;
+    saat.start();
+    QStringList parça;
+    for (; !kayıtlar.Eof(); kayıtlar.MoveNext()) {
+        parça.append(kayıtlar.Fields(u"MakaleBasligi").Value());
+        if (parça.size() < DolduranParça || saat.elapsed() < İletiAralığı)
+            continue;
+        MakaleListesi.AddItems(std::exchange(parça, {}));
+        QCoreApplication::processEvents();
+        if (bu != doldurma_) // another author was chosen meanwhile, or the window was closed
+            return false;
+        saat.restart();
+    }
+    MakaleListesi.AddItems(parça);
+    MakaleListesi.ListIndex(0);
+    return true;
+}
+
+// What is shown must belong to what is selected, also where it could not be read.
+void AnaForm::makaleleriBoşalt()
+{
+    ++doldurma_;
+    MakaleListesi.Clear();
+    MakaleMetniKutusu.Text({});
+    makaleToplamınıYaz();
+}
+
+void AnaForm::MakaleListesi_Click()
+{
+    const bool tamam = Olay("MakaleListesi_Click", [this] {
+        Recordset kayıtlar = Veritabanı->OpenRecordset(
+            QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='") + MakaleListesi.Text() + u'\'');
+        if (kayıtlar.Eof())
+            MakaleMetniKutusu.Text({});
+        else
+            makaleyiGöster(kayıtlar.Fields(u"MakaleMetni").Value());
+    });
+    if (!tamam)
+        MakaleMetniKutusu.Text({});
+}
+
+void AnaForm::makaleyiGöster(const QString& metin)
+{
+    MakaleMetniKutusu.FontName(MakaleYazıTipi);
+    MakaleMetniKutusu.FontSize(YazıBoyutu(YazıBoyutuSırası));
+    MakaleMetniKutusu.BackColor(ZeminRengi(ZeminRengiSırası));
+    MakaleMetniKutusu.Text(metin);
+}
+
+void AnaForm::ÖneGetir()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}

@@ -1,0 +1,124 @@
+// The main window: authors on the left, their articles below, the shown article on the right.
+#pragma once
+
+#include "controls/Düğme.h"
+#include "controls/ListeKutusu.h"
+#include "controls/ZenginMetinKutusu.h"
+#include "store/Recordset.h"
+
+#include <QAction>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QTimer>
+
+#include <array>
+#include <functional>
+
+/// Why the main window is asked to close.
+enum class KapanışNedeni { Kullanıcı = 0, Program = 1, OturumSonu = 2, GörevYöneticisi = 3, ÜstPencere = 4 };
+
+/// Window states as the settings keep them.
+enum class PencereDurumu { Olağan = 0, Simge = 1, TamEkran = 2 };
+
+/// The only main window; made by the start-up after the library was opened, lives until the program's
+/// end. All its handlers run on the user-interface thread. Sizes are twips.
+class AnaForm : public QMainWindow
+{
+public:
+    static constexpr int EnAzGenişlik = 9720; ///< outer width and height that the window never goes below
+    static constexpr int EnAzYükseklik = 7200;
+
+    AnaForm();
+    ~AnaForm() override;
+
+    /// Loads the window and makes it visible.
+    /// @param yüklendi called once the window stands
+    void Göster(const std::function<void()>& yüklendi = {});
+
+    /// Refills the author list from the library; an empty table leaves the list as it is.
+    void YazarListesiYükle();
+
+    enum class Eksen { Yatay, Dikey };
+    /// Where a window at this place of the axis is moved so that it stays on the screen; all in twips.
+    static int SınırlıKonum(int konum, int ekran, int boy, Eksen eksen);
+
+    /// Brings the window to the front, restored if it was minimised.
+    void ÖneGetir();
+
+    /// Closes the window for a reason of the program's or the system's.
+    /// @return whether it closed
+    bool Kapat(KapanışNedeni neden);
+
+protected:
+    void resizeEvent(QResizeEvent* olay) override;
+    void moveEvent(QMoveEvent* olay) override;
+    void closeEvent(QCloseEvent* olay) override;
+
+private:
+    // Putting together (once, by the constructor)
+    void kontrolleriKur();
+    void menüleriKur();
+    void sekmeSırasıKur();
+    void olaylarıBağla();
+
+    // Loading and browsing
+    void Form_Load();
+    void başlıklarıKoy();
+    void pencereDurumunuOku();
+    void görünümAyarlarınıOku();
+    void sonYazarıSeç();
+    void YazarListesi_Click();
+    void MakaleListesi_Click();
+    /// Fills the article list with the rows' titles and selects the first one, letting the window's
+    /// messages through. @return false when a newer filling took over meanwhile
+    bool makaleListesiniDoldur(Recordset& kayıtlar);
+    void makaleleriBoşalt();
+    void makaleyiGöster(const QString& metin);
+    void toplamlarıYaz();
+    void makaleToplamınıYaz();
+
+    // Layout
+    void Form_Resize();
+    void yerleştir(int genişlik, int yükseklik);
+    void enAzBoyuUygula();
+    void Sınırla_Timer();
+    QSize dışBoy() const;
+    PencereDurumu pencereDurumu() const;
+
+    // Exit
+    void ÇıkışButonu_Click();
+    /// @return whether the window may close
+    bool Form_QueryUnload(KapanışNedeni neden);
+    void oturumuBitir();
+
+    QWidget* yüzey_; // holds all controls; owned by the window
+    QFrame Altlık;
+    std::array<QLabel, 6> Etiket;
+    ListeKutusu YazarListesi;
+    QLabel ToplamYazarSayısıEtiketi;
+    QLineEdit YazarBulKutusu;
+    ListeKutusu MakaleListesi;
+    QLabel ToplamMakaleSayısıEtiketi;
+    QLineEdit MakaleBulKutusu;
+    ZenginMetinKutusu MakaleMetniKutusu;
+    QLineEdit BulKutusu;
+    Düğme BulButonu, TemizleButonu, TümündeBulButonu, ÇıkışButonu;
+    ZenginMetinKutusu YazdırKutusu;
+    QTimer Sınırla;
+
+    QMenu MakaleMenüsü, MakaleMetniMenüsü, YardımMenüsü;
+    QAction MakaleEkleMenüsü, MakeleDeğiştirMenüsü, MakaleSilMenüsü, ReferansOluşturMenüsü;
+    QAction TümünüSeçMenüsü, KopyalaMenüsü, YazdırMenüsü, WordeYapıştırMenüsü;
+    QAction AyarlarMenüsü, AyarlarMenüsü1;
+    QAction İçindekilerMenüsü, DizinMenüsü, HatalarıBildirinMenüsü, HakkındaMenüsü;
+    QAction MenüÇizgisi2, MenüÇizgisi3;
+
+    int doldurma_ = 0; // number of the newest filling of the article list; an older one stops
+    KapanışNedeni kapanışNedeni_ = KapanışNedeni::Kullanıcı;
+    bool soruluyor_ = false; // the exit question stands on the screen
+    bool bitti_ = false;     // the exit sequence has run
+    QSize yerleşen_;         // outer size in twips that the controls were last laid out for
+};

@@ -1,0 +1,105 @@
+#include "program/GirişModülü.h"
+
+#include "app/HataPolitikaları.h"
+#include "app/KapatmaSinyalleri.h"
+#include "app/Metinler.h"
+#include "app/OrtakApilerModülü.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "app/TekÖrnek.h"
+#include "app/İletiKutusu.h"
+#include "forms/AnaForm.h"
+#include "forms/KarşılamaFormu.h"
+#include "store/MakaleKitaplığı.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QSessionManager>
+#include <QTranslator>
+
+namespace {
+
+/// Turkish for all that the toolkit itself says, whatever the environment's language.
+void diliKur(QApplication& uygulama)
+{
+    QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
+    auto* çeviri = new QTranslator(&uygulama);
+    if (çeviri->load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(çeviri);
+    else
+        qWarning("belgenar: qtbase_tr is missing; standard buttons will not be Turkish");
+}
+
+[[noreturn]] void reddet(int metin)
+{
+    İletiGöster(Metin(metin), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
+    ProgramıBitir(1);
+}
+
+void sürümüDenetle()
+{
+    const auto sürüm = SürümBilgisiAl();
+    if (!sürüm)
+        reddet(25);
+    NTPlatformu = sürüm->Platform == 2;
+    if (!SürümUygun(*sürüm))
+        reddet(30);
+}
+
+void veritabanınıAç()
+{
+    const QString grup = KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu);
+    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::Veritabanı)))
+        reddet(40);
+    if (!DosyaVar(grup))
+        reddet(45);
+    Motor.emplace(&KarşılamaFormu::Boya);
+    Motor->SystemDB(grup);
+    ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
+    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, &KarşılamaFormu::Boya);
+    KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
+    ÇalışmaAlanı->Close();
+    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
+    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
+}
+
+/// The session's end asks like the user's own wish to close; a No stops it.
+void oturumSonunuBağla(QApplication& uygulama, AnaForm& form)
+{
+    QObject::connect(&uygulama, &QGuiApplication::commitDataRequest, &uygulama,
+                     [&form](QSessionManager& oturum) {
+                         if (oturum.allowsInteraction() && !form.Kapat(KapanışNedeni::OturumSonu))
+                             oturum.cancel();
+                     });
+}
+
+} // namespace
+
+int SubMain(QApplication& uygulama)
+{
+    return HatadaBildirVeÇık([&uygulama] {
+        diliKur(uygulama);
+        uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
+        AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - ") + Metin(5) + u' ' + SürümMetni();
+        TekÖrnek tekÖrnek(AnaPencereBaşlığı);
+        if (tekÖrnek.BaşkasıVar())
+            return 0;
+        AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(5);
+        ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
+        uygulama.setWindowIcon(QIcon(QStringLiteral(":/belgenar/simgeler/belgenar.png")));
+
+        KarşılamaFormu karşılama;
+        karşılama.show();
+        KarşılamaFormu::Boya();
+        sürümüDenetle();
+        veritabanınıAç();
+
+        AnaForm form;
+        tekÖrnek.ÖneÇağrıldı = [&form] { form.ÖneGetir(); };
+        const KapatmaSinyalleri sinyaller([&form] { form.Kapat(KapanışNedeni::GörevYöneticisi); });
+        oturumSonunuBağla(uygulama, form);
+        form.Göster([&karşılama] { karşılama.close(); });
+        return QApplication::exec();
+    });
+}

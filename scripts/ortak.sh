@@ -1,0 +1,84 @@
+# Shared by ./run, ./test and ./bench: packages, building, a virtual display. Sourced by bash, from the
+# checkout's folder.
+
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlcipher-dev libicu-dev"
+RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation"
+VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
+TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES wmctrl xclip"
+
+die() {
+    echo "$*" >&2
+    exit 1
+}
+
+# Installs those of the named Debian packages that are missing.
+need_packages() {
+    command -v dpkg-query >/dev/null && command -v apt-get >/dev/null \
+        || die "Bu sistemde Debian paketleri yok. Gerekenler / needed: $*"
+    local missing="" name
+    for name in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=" $name"
+    done
+    [ -n "$missing" ] || return 0
+    local sudo=""
+    if [ "$(id -u)" != 0 ]; then
+        command -v sudo >/dev/null || die "Kurulması gereken paketler (root olarak) / install as root:$missing"
+        sudo=sudo
+    fi
+    echo "Eksik paketler kuruluyor:$missing"
+    $sudo apt-get update -q >/dev/null || die "apt-get update başarısız oldu."
+    # shellcheck disable=SC2086
+    $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >/dev/null \
+        || die "Paketler kurulamadı:$missing"
+}
+
+# Configures once and builds a preset; quiet unless something fails or takes long.
+build() {
+    local preset=$1 log
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build.$preset.log" 2>&1 \
+        || { cat "build.$preset.log"; rm -f "build.$preset.log"; die "Yapılandırma başarısız: $preset"; }
+    rm -f "build.$preset.log"
+    log=$(cmake --build --preset "$preset" 2>&1) || { echo "$log" | tail -n 60; die "Derleme başarısız: $preset"; }
+}
+
+# Starts a virtual screen with a window manager; sets DISPLAY. Ends both when the shell exits.
+start_virtual_display() {
+    local number_file
+    number_file=$(mktemp)
+    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+    VIRTUAL_PIDS="$!"
+    trap 'stop_virtual_display' EXIT
+    local i
+    for i in $(seq 100); do
+        [ -s "$number_file" ] && break
+        sleep 0.1
+    done
+    [ -s "$number_file" ] || die "Xvfb başlamadı."
+    DISPLAY=:$(tr -d '\n' <"$number_file")
+    rm -f "$number_file"
+    export DISPLAY
+    openbox >/dev/null 2>&1 &
+    VIRTUAL_PIDS="$! $VIRTUAL_PIDS"
+    for i in $(seq 100); do
+        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+        sleep 0.1
+    done
+    setxkbmap tr 2>/dev/null || true
+}
+
+stop_virtual_display() {
+    # shellcheck disable=SC2086
+    kill $VIRTUAL_PIDS 2>/dev/null
+    wait 2>/dev/null
+}
+
+# Waits until a window with this text in its caption is visible; prints its id.
+wait_for_window() {
+    local i id
+    for i in $(seq "${2:-150}"); do
+        id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1)
+        [ -n "$id" ] && { echo "$id"; return 0; }
+        sleep 0.1
+    done
+    return 1
+}

@@ -1,0 +1,139 @@
+#!/usr/bin/env bash
+# A user's round with the real program on a virtual screen: tests/uçtan_uca.sh BUILD-FOLDER
+# Prints a line "ok ..." or "FAIL ..." for each step.
+set -u
+build=$(readlink -f "$1")
+cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
+. scripts/ortak.sh
+
+work=$(mktemp -d)
+folder=$work/Belgenar
+export XDG_CONFIG_HOME=$work/ayar XDG_RUNTIME_DIR=$work/calisma HOME=$work/ev
+mkdir -m 700 "$XDG_RUNTIME_DIR" "$HOME"
+settings="$XDG_CONFIG_HOME/Tepsan Yazilim/Belgenar.ini"
+caption="Tepsan Yazılım - Belgenar 1.00"
+failures=0
+program=
+
+check() { # check TITLE COMMAND...
+    local title=$1
+    shift
+    if "$@"; then
+        echo "ok $title"
+    else
+        echo "FAIL $title"
+        import -window root "${TMPDIR:-/tmp}/belgenar-hata-$((++failures)).png" 2>/dev/null
+    fi
+}
+eventually() { # eventually COMMAND...: true within five seconds
+    local i
+    for i in $(seq 50); do
+        "$@" && return 0
+        sleep 0.1
+    done
+    return 1
+}
+start() {
+    "$folder/belgenar" >>"$work/gunluk" 2>&1 &
+    program=$!
+    window=$(wait_for_window "$caption") && sleep 0.5
+}
+running() { kill -0 "$program" 2>/dev/null; }
+ended() { ! running; }
+ended_with() { wait "$program"; [ $? = "$1" ]; }
+setting() { grep -qx "$1" "$settings"; }
+active_is() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
+key() { xdotool key --clearmodifiers "$@"; sleep 0.15; }
+fails_with() { # fails_with TEXT-NUMBER: the program shows a box; Enter ends it with status 1
+    "$folder/belgenar" >"$work/red" 2>&1 &
+    program=$!
+    local i
+    for i in $(seq 40); do # the splash stands first, then the box
+        running || break
+        key Return
+    done
+    running && { kill -9 "$program"; return 1; }
+    ended_with 1 || return 1
+    [ -z "${1-}" ] || grep -q "belgenar: $1 " "$work/red"
+}
+dump() { "$folder/belgenar-kitaplik" dök "$folder" 2>/dev/null; }
+same_library() { dump | cmp -s - "$work/dokum"; }
+
+start_virtual_display
+trap 'kill -9 $program 2>/dev/null; stop_virtual_display; rm -rf "$work"' EXIT
+
+cmake --install "$build" --prefix "$folder" >/dev/null
+check "araç kitaplık kurar" "$folder/belgenar-kitaplik" oluştur "$folder"
+check "araç makaleleri aktarır" "$folder/belgenar-kitaplik" aktar "$folder" resources/kitaplik/baslangic.jsonl
+dump >"$work/dokum"
+
+# First start: maximised, first author.
+check "program açılır" start
+check "ana pencere öndedir" eventually active_is "$caption"
+check "kitaplık açıkken araç kibarca geri çevirir" bash -c "! '$folder/belgenar-kitaplik' dök '$folder' 2>&1 | grep -vq 3045"
+key Down Down
+key Escape
+check "çıkış sorulur" eventually active_is Belgenar
+key Escape
+check "Hayır programı sürdürür" eventually active_is "$caption"
+key Escape
+eventually active_is Belgenar
+key Return
+check "Evet programı bitirir" eventually ended
+check "çıkış durumu sıfırdır" ended_with 0
+check "son yazar saklanır" setting "Son%20Yazar=2"
+check "tam ekran saklanır" setting "Tam%20Ekran=2"
+check "kitaplık aynıdır" same_library
+
+# Second start: at a stored place; a second instance only brings the first one forward.
+sed -i 's/^Tam%20Ekran=.*/Tam%20Ekran=0\nSol=1500\nUst=1200/' "$settings"
+check "yeniden açılır" start
+xdotool windowminimize "$window"
+sleep 0.5
+check "ikinci örnek 0 ile biter" "$folder/belgenar"
+check "ilk örnek öne gelir" eventually active_is "$caption"
+kill -TERM "$program"
+check "TERM sormadan bitirir" eventually ended
+check "konum kaymaz" bash -c "grep -qx Sol=1500 '$settings' && grep -qx Ust=1200 '$settings'"
+
+# Abnormal ends and bad input.
+start
+kill -KILL "$program"
+wait "$program" 2>/dev/null
+check "öldürülen program yeniden açılır" start
+kill -TERM "$program"
+eventually ended
+check "öldürmeden sonra kitaplık aynıdır" same_library
+
+cp "$folder"/Makale.* "$work"/
+restore() { rm -f "$folder"/Makale.*; cp "$work"/Makale.* "$folder"/; }
+unchanged() { cmp -s "$folder/Makale.mde" "$1"; }
+rm "$folder/Makale.mde"
+check "kitaplık yoksa geri çevirir" fails_with
+restore; rm "$folder/Makale.tps"
+check "çalışma grubu yoksa geri çevirir" fails_with
+for case in "boş:3902:: > %s" "yarım:3901:truncate -s 50000 %s" "yabancı:3343:cp scripts/ortak.sh %s" \
+    "bozuk:3049:dd if=/dev/urandom of=%s bs=1 seek=100 count=64 conv=notrunc status=none"; do
+    for file in Makale.mde Makale.tps; do
+        IFS=: read -r name number command <<<"$case"
+        restore
+        # shellcheck disable=SC2059
+        eval "$(printf "$command" "'$folder/$file'")"
+        cp "$folder/Makale.mde" "$work/once"
+        check "$name $file: $number" fails_with "$number"
+        check "$name $file: kitaplık dosyasına dokunulmaz" unchanged "$work/once"
+    done
+done
+restore
+(exec 9<"$folder"; flock 9; exec sleep 30) &
+locker=$!
+sleep 0.3
+check "kilitli klasör: 3045" fails_with 3045
+kill "$locker"
+wait "$locker" 2>/dev/null
+check "sonunda yine açılır" start
+kill -TERM "$program"
+eventually ended
+check "hiçbir makale yitmez" same_library
+
+[ "$failures" = 0 ]

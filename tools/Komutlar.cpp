@@ -1,0 +1,267 @@
+#include "tools/Komutlar.h"
+
+#include "store/MakaleKitaplığı.h"
+#include "tools/AraçHatası.h"
+#include "tools/JsonSatırları.h"
+#include "tools/KitaplıkDenetimi.h"
+#include "tools/Uçbirim.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <new>
+
+namespace {
+
+constexpr int Başarılı = 0;
+constexpr int Başarısız = 1;
+constexpr int YanlışKullanım = 2;
+
+// None of the library's rows: what is appended needs no look at what is there.
+const QString EklemeSorgusu = QStringLiteral("SELECT * FROM [Makaleler] WHERE 1=0");
+// The key decides between equals, so that a library made from the output gives the same output.
+const QString DökümSorgusu =
+    QStringLiteral("SELECT * FROM [Makaleler] ORDER BY [YazarAdi] ASC, [MakaleBasligi] ASC, [Kimlik] ASC");
+
+const QString YardımMetni = QStringLiteral(
+    R"(belgenar-kitaplik: Belgenar'ın makale kitaplığını oluşturur, doldurur, döker ve denetler.
+
+Kullanım:
+  belgenar-kitaplik oluştur KLASÖR       Boş bir kitaplık oluşturur; var olanın üzerine yazmaz.
+  belgenar-kitaplik aktar KLASÖR DOSYA   DOSYA'daki makaleleri kitaplığa ekler. Satırlardan biri bile
+                                         yanlışsa hiçbirini eklemez. DOSYA yerine "-" yazılırsa
+                                         standart girdiyi okur.
+  belgenar-kitaplik dök KLASÖR           Bütün makaleleri standart çıktıya yazar.
+  belgenar-kitaplik denetle KLASÖR       Kitaplığın iki dosyasını denetler; hiçbir şeyi değiştirmez.
+  belgenar-kitaplik --yardım             Bu açıklamayı gösterir.
+
+KLASÖR, Makale.mde ile Makale.tps dosyalarının bulunduğu program klasörüdür. Program ya da başka bir
+araç kitaplığı açık tutarken hiçbir komut çalışmaz.
+
+Makaleler JSON Lines biçimindedir: UTF-8, her satırda bir nesne, her nesnede beş metin:
+  {"YazarAdi": "…", "MakaleBasligi": "…", "YayimYeri": "…", "YayimTarihi": "…", "MakaleMetni": "…"}
+Yazar adı ile başlık boş olamaz. Boş satırlar atlanır.
+
+Çıkış durumu: 0 başarılı, 1 başarısız ya da denetimde sorun bulundu, 2 yanlış kullanım.
+Komutlar olustur, dok ve --yardim diye de yazılabilir.
+)");
+
+volatile std::sig_atomic_t durdurma = 0;
+
+/// While it lives, an interruption is noted instead of ending the process; a second one ends it.
+class DurdurmaBekçisi
+{
+public:
+    DurdurmaBekçisi()
+    {
+        struct sigaction eylem = {};
+        eylem.sa_handler = [](int) { durdurma = 1; };
+        eylem.sa_flags = static_cast<int>(SA_RESETHAND);
+        for (std::size_t i = 0; i < İşaretler.size(); ++i)
+            sigaction(İşaretler[i], &eylem, &eskiler_[i]);
+    }
+    ~DurdurmaBekçisi()
+    {
+        for (std::size_t i = 0; i < İşaretler.size(); ++i)
+            sigaction(İşaretler[i], &eskiler_[i], nullptr);
+    }
+    DurdurmaBekçisi(const DurdurmaBekçisi&) = delete;
+    DurdurmaBekçisi& operator=(const DurdurmaBekçisi&) = delete;
+
+    void Bak() const
+    {
+        if (durdurma)
+            throw AraçHatası(QStringLiteral("İşlem durduruldu; kitaplık değişmedi."));
+    }
+
+private:
+    static constexpr std::array<int, 3> İşaretler = {SIGINT, SIGTERM, SIGHUP};
+    std::array<struct sigaction, 3> eskiler_ = {};
+};
+
+QString klasörYolu(const QString& klasör)
+{
+    const QString yol = QDir(klasör).absolutePath();
+    return yol.endsWith(u'/') ? yol : yol + u'/';
+}
+
+/// The open library; holds its lock.
+struct AçıkKitaplık
+{
+    explicit AçıkKitaplık(const QString& klasör)
+    {
+        motor.SystemDB(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
+        alan = SahipÇalışmaAlanı(motor);
+        veritabanı = KitaplıkAç(*alan, klasör);
+    }
+
+    DBEngine motor;
+    std::optional<Workspace> alan;
+    std::optional<Database> veritabanı;
+};
+
+int oluştur(const QStringList& değişkenler)
+{
+    const QString klasör = klasörYolu(değişkenler[0]);
+    if (!QDir().mkpath(klasör))
+        throw AraçHatası(QStringLiteral("Klasör oluşturulamıyor (%1).").arg(klasör));
+    const KlasörKilidi kilit(klasör);
+    KitaplıkKur(klasör);
+    Bildir(QStringLiteral("Boş bir kitaplık oluşturuldu: %1").arg(klasör));
+    return Başarılı;
+}
+
+void satırlarıDenetle(JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
+{
+    İlerleme ilerleme(QStringLiteral("Satırlar denetleniyor"));
+    while (satırlar.Sonraki()) {
+        bekçi.Bak();
+        ilerleme.Göster(satırlar.Konum(), satırlar.Boy());
+    }
+    satırlar.BaşaDön();
+}
+
+/// Returns the number of articles appended.
+qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
+{
+    İlerleme ilerleme(QStringLiteral("Makaleler aktarılıyor"));
+    Recordset kayıtlar = veritabanı.OpenRecordset(EklemeSorgusu);
+    while (const auto makale = satırlar.Sonraki()) {
+        bekçi.Bak();
+        kayıtlar.AddNew();
+        for (std::size_t i = 0; i < makale->size(); ++i)
+            kayıtlar.Fields(MakaleSütunları[i].ad).Value((*makale)[i]);
+        kayıtlar.Update();
+        ilerleme.Göster(satırlar.BirKezOkunur() ? kayıtlar.RecordCount() : satırlar.Konum(),
+                        satırlar.BirKezOkunur() ? 0 : satırlar.Boy());
+    }
+    bekçi.Bak();
+    return kayıtlar.RecordCount();
+}
+
+int aktar(const QStringList& değişkenler)
+{
+    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]));
+    JsonSatırları satırlar(değişkenler[1]);
+    const DurdurmaBekçisi bekçi;
+    if (!satırlar.BirKezOkunur()) // else a bad line rolls back what came before it
+        satırlarıDenetle(satırlar, bekçi);
+    qint64 eklenen = 0;
+    kitaplık.veritabanı->TekİşlemdeYap(
+        [&] { eklenen = makaleleriEkle(*kitaplık.veritabanı, satırlar, bekçi); });
+    Bildir(QStringLiteral("%1 makale aktarıldı.").arg(eklenen));
+    return Başarılı;
+}
+
+int dök(const QStringList& değişkenler)
+{
+    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]));
+    Çıktı çıktı;
+    İlerleme ilerleme(QStringLiteral("Makaleler dökülüyor"));
+    Recordset kayıtlar = kitaplık.veritabanı->OpenRecordset(DökümSorgusu);
+    for (qint64 sayı = 0; !kayıtlar.Eof(); kayıtlar.MoveNext()) {
+        Makale makale;
+        for (std::size_t i = 0; i < makale.size(); ++i)
+            makale[i] = kayıtlar.Fields(MakaleSütunları[i].ad).Value();
+        çıktı.Yaz(MakaleSatırı(makale));
+        ilerleme.Göster(++sayı, kayıtlar.RecordCount());
+    }
+    çıktı.Bitir();
+    return Başarılı;
+}
+
+int denetle(const QStringList& değişkenler)
+{
+    DenetimSonucu sonuç;
+    {
+        İlerleme ilerleme(QStringLiteral("Kitaplık denetleniyor"));
+        sonuç = KitaplığıDenetle(klasörYolu(değişkenler[0]), [&ilerleme](qint64 okunan, qint64 toplam) {
+            ilerleme.Göster(okunan, toplam);
+        });
+    }
+    Çıktı çıktı;
+    for (const QString& bulgu : sonuç.Bulgular)
+        çıktı.Yaz(bulgu + u'\n');
+    for (const QString& not_ : sonuç.Notlar)
+        çıktı.Yaz(QStringLiteral("Not: %1\n").arg(not_));
+    çıktı.Yaz(sonuç.Bulgular.isEmpty()
+                  ? QStringLiteral("Kitaplık sağlam; %1 makale var.\n").arg(sonuç.MakaleSayısı)
+                  : QStringLiteral("Kitaplıkta sorun var.\n"));
+    çıktı.Bitir();
+    return sonuç.Bulgular.isEmpty() ? Başarılı : Başarısız;
+}
+
+int yardım(const QStringList&)
+{
+    Çıktı çıktı;
+    çıktı.Yaz(YardımMetni);
+    çıktı.Bitir();
+    return Başarılı;
+}
+
+struct Komut
+{
+    QStringView ad;
+    QStringView yalınAd; // as it is typed without Turkish letters
+    QStringView değişkenler;
+    qsizetype değişkenSayısı;
+    int (*çalıştır)(const QStringList& değişkenler);
+};
+
+constexpr std::array<Komut, 4> Komutlar = {{
+    {u"oluştur", u"olustur", u"KLASÖR", 1, oluştur},
+    {u"aktar", u"aktar", u"KLASÖR DOSYA", 2, aktar},
+    {u"dök", u"dok", u"KLASÖR", 1, dök},
+    {u"denetle", u"denetle", u"KLASÖR", 1, denetle},
+}};
+
+bool yardımİsteği(const QString& değişken)
+{
+    return değişken == u"--yardım" || değişken == u"--yardim" || değişken == u"--help";
+}
+
+int yanlışKullanım(const QString& cümle)
+{
+    HataBildir(cümle + QStringLiteral(" Açıklama için: belgenar-kitaplik --yardım"));
+    return YanlışKullanım;
+}
+
+int seç(const QStringList& değişkenler)
+{
+    if (std::any_of(değişkenler.begin(), değişkenler.end(), yardımİsteği))
+        return yardım({});
+    // A terminal may give a letter and its mark apart.
+    const QString ad = değişkenler[0].normalized(QString::NormalizationForm_C);
+    const auto komut = std::find_if(Komutlar.begin(), Komutlar.end(),
+                                    [&ad](const Komut& k) { return k.ad == ad || k.yalınAd == ad; });
+    if (komut == Komutlar.end())
+        return yanlışKullanım(QStringLiteral("“%1” diye bir komut yok.").arg(ad));
+    const QStringList kalan = değişkenler.mid(1);
+    if (kalan.size() != komut->değişkenSayısı || kalan.contains(QString())) {
+        return yanlışKullanım(
+            QStringLiteral("Komut şöyle yazılır: %1 %2.").arg(komut->ad, komut->değişkenler));
+    }
+    return komut->çalıştır(kalan);
+}
+
+} // namespace
+
+int KomutÇalıştır(const QStringList& değişkenler)
+{
+    try {
+        if (değişkenler.isEmpty()) {
+            HataBildir(QStringLiteral("Bir komut gerekiyor.\n\n") + YardımMetni.trimmed());
+            return YanlışKullanım;
+        }
+        return seç(değişkenler);
+    } catch (const VeritabanıHatası& hata) {
+        HataBildir(QStringLiteral("%1: %2").arg(int(hata.Numara())).arg(hata.Açıklama()));
+    } catch (const AraçHatası& hata) {
+        HataBildir(hata.Açıklama());
+    } catch (const std::bad_alloc&) {
+        HataBildir(QStringLiteral("Bellek yetmiyor."));
+    }
+    return Başarısız;
+}
