@@ -56,6 +56,7 @@ double SayıAyarıOku(QStringView anahtar, double varsayılan)
 qint16 SıraSayısı(double sayı)
 {
     const double yuvarlak = std::nearbyint(sayı);
-    const bool sığar = yuvarlak >= std::numeric_limits<qint16>::min() && yuvarlak <= std::numeric_limits<qint16>::max();
+    const bool sığar =
+        yuvarlak >= std::numeric_limits<qint16>::min() && yuvarlak <= std::numeric_limits<qint16>::max();
     return sığar ? static_cast<qint16>(yuvarlak) : qint16(-1);
 }

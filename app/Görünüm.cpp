@@ -16,12 +16,10 @@ constexpr Renk SistemRengi = 0x80000000;
 constexpr double TwipİnçBaşına = 1440.0;
 constexpr double OlağanNokta = 96.0;
 
-template<class Tablo>
-auto tablodan(const Tablo& tablo, qint16 sıra)
+template<class Tablo> auto tablodan(const Tablo& tablo, qint16 sıra)
 {
-    return sıra >= 0 && static_cast<std::size_t>(sıra) < tablo.size()
-               ? tablo[static_cast<std::size_t>(sıra)]
-               : typename Tablo::value_type(0);
+    return sıra >= 0 && static_cast<std::size_t>(sıra) < tablo.size() ? tablo[static_cast<std::size_t>(sıra)]
+                                                                      : typename Tablo::value_type(0);
 }
 
 double nokta()

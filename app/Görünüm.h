@@ -8,9 +8,9 @@
 /// 0x00BBGGRR, or 0x80000000 plus the number of a system colour.
 using Renk = quint32;
 
-inline constexpr Renk OdakMavisi = 0xFF0000;        ///< caption label of the field that has the focus
+inline constexpr Renk OdakMavisi = 0xFF0000;           ///< caption label of the field that has the focus
 inline constexpr Renk PencereZeminiRengi = 0x80000005; ///< system colour of fields
-inline constexpr Renk DüğmeYüzüRengi = 0x8000000F;  ///< system colour of button faces
+inline constexpr Renk DüğmeYüzüRengi = 0x8000000F;     ///< system colour of button faces
 
 /// Point size of an index of the size list (8 to 14); 0 for an index outside the list.
 int YazıBoyutu(qint16 sıra);

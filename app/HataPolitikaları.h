@@ -25,8 +25,7 @@ HataBilgisi ŞimdikiHata();
 void HatayıGünlüğeYaz(const char* işleyici);
 
 /// Runs every step; an error ends its own step only.
-template<class... Adımlar>
-void AdımAdım(Adımlar&&... adımlar)
+template<class... Adımlar> void AdımAdım(Adımlar&&... adımlar)
 {
     const auto dene = [](auto&& adım) {
         try {
@@ -39,15 +38,13 @@ void AdımAdım(Adımlar&&... adımlar)
 }
 
 /// Runs the body; the first error ends it silently.
-template<class Gövde>
-void İlkHatadaBit(Gövde&& gövde)
+template<class Gövde> void İlkHatadaBit(Gövde&& gövde)
 {
     AdımAdım(std::forward<Gövde>(gövde));
 }
 
 /// Runs the body; the first error is reported and ends the program.
-template<class Gövde>
-decltype(auto) HatadaBildirVeÇık(Gövde&& gövde)
+template<class Gövde> decltype(auto) HatadaBildirVeÇık(Gövde&& gövde)
 {
     try {
         return gövde();
@@ -58,8 +55,7 @@ decltype(auto) HatadaBildirVeÇık(Gövde&& gövde)
 
 /// Runs a handler that declares no policy: an error ends it and is logged, and the window stays usable.
 /// @return whether the body ran to its end
-template<class Gövde>
-bool Olay(const char* işleyici, Gövde&& gövde)
+template<class Gövde> bool Olay(const char* işleyici, Gövde&& gövde)
 {
     try {
         gövde();

@@ -20,7 +20,8 @@ QHash<int, QString> tabloyuOku()
     const QStringList satırlar = QString::fromUtf8(dosya.readAll()).split(u'\n', Qt::SkipEmptyParts);
     for (const QString& satır : satırlar) {
         const qsizetype ayraç = satır.indexOf(u'\t');
-        tablo.insert(satır.left(ayraç).toInt(), satır.mid(ayraç + 1).replace(QLatin1String("\\n"), QLatin1String("\n")));
+        tablo.insert(satır.left(ayraç).toInt(),
+                     satır.mid(ayraç + 1).replace(QLatin1String("\\n"), QLatin1String("\n")));
     }
     return tablo;
 }

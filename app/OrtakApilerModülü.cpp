@@ -1,5 +1,6 @@
 #include "app/OrtakApilerModülü.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -50,14 +51,19 @@ QString SonaAyraçEkle(const QString& yol)
 
 QString KayıtMetniOku(KayıtKökü kök, const QString& anahtarYolu, const QString& değerAdı)
 {
-    if (kök != KayıtKökü::Sınıflar || anahtarYolu != QLatin1String("Word.Document\\CurVer")
-        || !değerAdı.isEmpty())
+    if (kök != KayıtKökü::Sınıflar || anahtarYolu != QLatin1String("Word.Document\\CurVer") ||
+        !değerAdı.isEmpty())
         return {};
     for (const QString& program : {QStringLiteral("soffice"), QStringLiteral("libreoffice")}) {
         if (!QStandardPaths::findExecutable(program).isEmpty())
             return program;
     }
     return {};
+}
+
+void PencereleriBoya()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void TürkçeKarakterKümesiUygula(QWidget& pencere)

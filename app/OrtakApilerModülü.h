@@ -12,8 +12,8 @@ struct SürümBilgisi
 {
     quint32 Ana = 0;
     quint32 Alt = 0;
-    quint32 Platform = 0;  ///< 2 is NT
-    QString ServisPaketi;  ///< up to its first NUL
+    quint32 Platform = 0; ///< 2 is NT
+    QString ServisPaketi; ///< up to its first NUL
 };
 
 /// Nothing when the system does not answer.
@@ -28,11 +28,17 @@ bool DosyaVar(const QString& yol);
 /// The path with a separator at its end.
 QString SonaAyraçEkle(const QString& yol);
 
-enum class KayıtKökü : quint32 { Sınıflar = 0x80000000 };
+enum class KayıtKökü : quint32
+{
+    Sınıflar = 0x80000000
+};
 
 /// A text of the desktop's registry, "" when absent. There is none on this system; the one key that
 /// tells whether a word processor is installed ("Word.Document\CurVer") is answered by looking for it.
 QString KayıtMetniOku(KayıtKökü kök, const QString& anahtarYolu, const QString& değerAdı);
+
+/// Lets all windows paint during long work; what the user does meanwhile waits until it is over.
+void PencereleriBoya();
 
 /// Makes all controls of a window treat their texts as Turkish.
 void TürkçeKarakterKümesiUygula(QWidget& pencere);

@@ -48,8 +48,8 @@ QPoint OrtalıYer(const QRect& üst, const QSize& kutu)
     QMessageBox kutu(etkin);
     kutu.setObjectName(QStringLiteral("İletiKutusu"));
     kutu.setWindowTitle(Metin(5));
-    kutu.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
-                        | Qt::MSWindowsFixedSizeDialogHint);
+    kutu.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                        Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
     kutu.setTextFormat(Qt::PlainText); // file names and articles may hold anything
     kutu.setText(metin);
     kutu.setIcon(kutuSimgesi(simge));

@@ -6,10 +6,30 @@
 #include <QSize>
 #include <QString>
 
-enum class İletiSimgesi { Bilgi, Soru, Uyarı, Kritik };
-enum class İletiDüğmeleri { Tamam, EvetHayır, EvetHayırVarsayılanHayır };
-enum class İletiYanıtı { Tamam, Evet, Hayır };
-enum class İletiYeri { EtkinPencere, Ekran };
+enum class İletiSimgesi
+{
+    Bilgi,
+    Soru,
+    Uyarı,
+    Kritik
+};
+enum class İletiDüğmeleri
+{
+    Tamam,
+    EvetHayır,
+    EvetHayırVarsayılanHayır
+};
+enum class İletiYanıtı
+{
+    Tamam,
+    Evet,
+    Hayır
+};
+enum class İletiYeri
+{
+    EtkinPencere,
+    Ekran
+};
 
 /// Shows a modal box titled with the program's name and waits for the answer. Closing the box answers
 /// Hayır where there is a choice.

@@ -18,7 +18,7 @@ void Düğme::paintEvent(QPaintEvent*)
                       style()->pixelMetric(QStyle::PM_ButtonShiftVertical, &seçenek, this));
     const bool altÇizgi = style()->styleHint(QStyle::SH_UnderlineShortcut, &seçenek, this) != 0;
     style()->drawItemText(&ressam, yer,
-                          Qt::AlignCenter | Qt::TextWordWrap
-                              | (altÇizgi ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                          Qt::AlignCenter | Qt::TextWordWrap |
+                              (altÇizgi ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                           seçenek.palette, isEnabled(), yazı, QPalette::ButtonText);
 }

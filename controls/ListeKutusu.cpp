@@ -54,7 +54,7 @@ private:
     QStringList metinler_;
 };
 
-ListeKutusu::ListeKutusu(QWidget* üst) : QListView(üst), model_(std::make_unique<Model>(*this))
+ListeKutusu::ListeKutusu(QWidget* üst) : TuşOlaylı<QListView>(üst), model_(std::make_unique<Model>(*this))
 {
     setModel(model_.get());
     setUniformItemSizes(true);
@@ -144,8 +144,8 @@ void ListeKutusu::currentChanged(const QModelIndex& şimdiki, const QModelIndex&
 void ListeKutusu::mousePressEvent(QMouseEvent* olay)
 {
     const int önceki = ListIndex();
-    const bool yine = olay->button() == Qt::LeftButton && önceki >= 0
-                      && indexAt(olay->position().toPoint()).row() == önceki;
+    const bool yine = olay->button() == Qt::LeftButton && önceki >= 0 &&
+                      indexAt(olay->position().toPoint()).row() == önceki;
     QListView::mousePressEvent(olay);
     if (yine && Click)
         Click();
@@ -165,7 +165,8 @@ bool ListeKutusu::viewportEvent(QEvent* olay)
         const QModelIndex yer = indexAt(yardım->pos());
         const QString metin = yer.isValid() ? Item(yer.row()) : QString();
         const bool kesik = fontMetrics().horizontalAdvance(metin) > viewport()->width() - 2 * SatırBoşluğu;
-        QToolTip::showText(yardım->globalPos(), kesik ? metin.toHtmlEscaped().prepend(QLatin1String("<p>")) : QString(),
+        QToolTip::showText(yardım->globalPos(),
+                           kesik ? metin.toHtmlEscaped().prepend(QLatin1String("<p>")) : QString(),
                            viewport());
         return true;
     }

@@ -1,6 +1,8 @@
 // The list box.
 #pragma once
 
+#include "controls/TuşSüzgeci.h"
+
 #include <QListView>
 #include <QString>
 #include <QStringList>
@@ -11,7 +13,7 @@
 
 /// A list of texts of which at most one is selected. Indices count from 0; -1 is no selection. Quick
 /// with 100,000 entries; an entry too wide for the box is cut and shown whole as a tip.
-class ListeKutusu : public QListView
+class ListeKutusu : public TuşOlaylı<QListView>
 {
 public:
     explicit ListeKutusu(QWidget* üst = nullptr);

@@ -2,20 +2,33 @@
 #pragma once
 
 #include "app/Görünüm.h"
+#include "controls/TuşSüzgeci.h"
 
+#include <QList>
 #include <QPlainTextEdit>
 #include <QString>
 
 /// Built on the plain-text editor because that lays out only what is visible: a text of 20 MB shows at
 /// once. Positions count UTF-16 units from 0; a line break is one unit.
-class ZenginMetinKutusu : public QPlainTextEdit
+class ZenginMetinKutusu : public TuşOlaylı<QPlainTextEdit>
 {
 public:
     explicit ZenginMetinKutusu(QWidget* üst = nullptr);
 
+    /// The whole text with "\n" as line break; every other unit as it was set.
     QString Text() const;
     /// Replaces the whole text, without marks, and goes to its beginning.
     void Text(const QString& metin);
+
+    /// Where the selection begins, or the caret stands.
+    int SelStart() const { return textCursor().selectionStart(); }
+    /// Puts the caret at a place, at the text's end where that lies beyond it; selects nothing and
+    /// does not scroll.
+    void SelStart(int yer);
+
+    /// Colours the given stretches of the shown copy red and makes them bold, and scrolls to the first.
+    /// @param yerler ascending places at which stretches of this length begin
+    void İşaretle(const QList<qsizetype>& yerler, qsizetype uzunluk);
 
     QString FontName() const { return font().family(); }
     void FontName(const QString& ad);
@@ -24,4 +37,7 @@ public:
     void FontSize(int nokta);
     /// The letters become black or white, whichever reads better on it.
     void BackColor(Renk renk);
+
+private:
+    void imleciKoy(int yer);
 };

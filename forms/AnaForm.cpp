@@ -15,10 +15,10 @@
 
 namespace {
 
-constexpr int SınırlamaAralığı = 1000;  // ms
-constexpr int İletiAralığı = 20;        // ms between two looks at the window's messages during long work
-constexpr int DolduranParça = 512;      // rows between two looks at the clock
-constexpr int OlağanGenişlik = 12000;   // twips
+constexpr int SınırlamaAralığı = 1000; // ms
+constexpr int İletiAralığı = 20;       // ms between two looks at the window's messages during long work
+constexpr int DolduranParça = 512;     // rows between two looks at the clock
+constexpr int OlağanGenişlik = 12000;  // twips
 constexpr int OlağanYükseklik = 9000;
 constexpr double EnUzakKonum = 1000000; // twips; what a stored position may be at most
 constexpr double TamEkranDeğeri = 2;
@@ -105,20 +105,20 @@ void AnaForm::menüleriKur()
 
     menuBar()->setNativeMenuBar(false);
     menuBar()->addMenu(&MakaleMenüsü);
-    MakaleMenüsü.addActions({&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü,
-                             &ReferansOluşturMenüsü});
+    MakaleMenüsü.addActions(
+        {&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü, &ReferansOluşturMenüsü});
     menuBar()->addAction(&AyarlarMenüsü);
     menuBar()->addMenu(&YardımMenüsü);
-    YardımMenüsü.addActions({&İçindekilerMenüsü, &DizinMenüsü, &MenüÇizgisi3, &HatalarıBildirinMenüsü,
-                             &HakkındaMenüsü});
+    YardımMenüsü.addActions(
+        {&İçindekilerMenüsü, &DizinMenüsü, &MenüÇizgisi3, &HatalarıBildirinMenüsü, &HakkındaMenüsü});
     MakaleMetniMenüsü.addActions({&TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe : {&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü, &ReferansOluşturMenüsü,
-                         &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
-                         &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü,
-                         &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe :
+         {&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü, &ReferansOluşturMenüsü,
+          &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü, &AyarlarMenüsü,
+          &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
         öğe->setEnabled(false);
 }
 
@@ -142,6 +142,7 @@ void AnaForm::olaylarıBağla()
 {
     YazarListesi.Click = [this] { YazarListesi_Click(); };
     MakaleListesi.Click = [this] { MakaleListesi_Click(); };
+    bulmaOlaylarınıBağla();
     connect(&ÇıkışButonu, &QPushButton::clicked, this, &AnaForm::ÇıkışButonu_Click);
     connect(&Sınırla, &QTimer::timeout, this, &AnaForm::Sınırla_Timer);
     auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), this);
@@ -262,7 +263,7 @@ void AnaForm::makaleToplamınıYaz()
 
 void AnaForm::YazarListesi_Click()
 {
-    if (!Altlık.isEnabled())
+    if (sonuçGörünümü())
         return;
     const bool tamam = Olay("YazarListesi_Click", [this] {
         Recordset kayıtlar = Veritabanı->OpenRecordset(
@@ -309,12 +310,18 @@ void AnaForm::makaleleriBoşalt()
 void AnaForm::MakaleListesi_Click()
 {
     const bool tamam = Olay("MakaleListesi_Click", [this] {
-        Recordset kayıtlar = Veritabanı->OpenRecordset(
-            QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='") + MakaleListesi.Text() + u'\'');
-        if (kayıtlar.Eof())
+        Recordset kayıtlar =
+            Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='") +
+                                      MakaleListesi.Text() + u'\'');
+        if (kayıtlar.Eof()) {
             MakaleMetniKutusu.Text({});
-        else
-            makaleyiGöster(kayıtlar.Fields(u"MakaleMetni").Value());
+            return;
+        }
+        makaleyiGöster(kayıtlar.Fields(u"MakaleMetni").Value());
+        if (sonuçGörünümü()) {
+            yazarıGöster(kayıtlar.Fields(u"YazarAdi").Value());
+            sözcüğüİşaretle();
+        }
     });
     if (!tamam)
         MakaleMetniKutusu.Text({});

@@ -3,13 +3,14 @@
 
 #include "controls/Düğme.h"
 #include "controls/ListeKutusu.h"
+#include "controls/MetinKutusu.h"
+#include "controls/OdakEtiketi.h"
 #include "controls/ZenginMetinKutusu.h"
 #include "store/Recordset.h"
 
 #include <QAction>
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QTimer>
@@ -18,10 +19,22 @@
 #include <functional>
 
 /// Why the main window is asked to close.
-enum class KapanışNedeni { Kullanıcı = 0, Program = 1, OturumSonu = 2, GörevYöneticisi = 3, ÜstPencere = 4 };
+enum class KapanışNedeni
+{
+    Kullanıcı = 0,
+    Program = 1,
+    OturumSonu = 2,
+    GörevYöneticisi = 3,
+    ÜstPencere = 4
+};
 
 /// Window states as the settings keep them.
-enum class PencereDurumu { Olağan = 0, Simge = 1, TamEkran = 2 };
+enum class PencereDurumu
+{
+    Olağan = 0,
+    Simge = 1,
+    TamEkran = 2
+};
 
 /// The only main window; made by the start-up after the library was opened, lives until the program's
 /// end. All its handlers run on the user-interface thread. Sizes are twips.
@@ -41,7 +54,11 @@ public:
     /// Refills the author list from the library; an empty table leaves the list as it is.
     void YazarListesiYükle();
 
-    enum class Eksen { Yatay, Dikey };
+    enum class Eksen
+    {
+        Yatay,
+        Dikey
+    };
     /// Where a window at this place of the axis is moved so that it stays on the screen; all in twips.
     static int SınırlıKonum(int konum, int ekran, int boy, Eksen eksen);
 
@@ -77,8 +94,29 @@ private:
     bool makaleListesiniDoldur(Recordset& kayıtlar);
     void makaleleriBoşalt();
     void makaleyiGöster(const QString& metin);
+    /// Whether the article list holds what a search in all articles found.
+    bool sonuçGörünümü() const { return !Altlık.isEnabled(); }
     void toplamlarıYaz();
     void makaleToplamınıYaz();
+
+    // Finding
+    void bulmaOlaylarınıBağla();
+    void YazarBulKutusu_Change();
+    void MakaleBulKutusu_Change();
+    void BulKutusu_Change();
+    void BulKutusu_KeyPress(char16_t& kod);
+    void BulButonu_Click();
+    void TemizleButonu_Click();
+    void TümündeBulButonu_Click();
+    bool sözcükYeterli() const;
+    void tümündeBul();
+    void sonuçlarıGöster(Recordset& kayıtlar);
+    void sonuçYok();
+    /// Marks the word wherever it stands between two blanks. @return whether it was found
+    bool sözcüğüİşaretle();
+    void yazarıGöster(const QString& yazar);
+    void bulmaDüğmeleri(bool açık);
+    void yazarTarafı(bool açık);
 
     // Layout
     void Form_Resize();
@@ -99,24 +137,27 @@ private:
     std::array<QLabel, 6> Etiket;
     ListeKutusu YazarListesi;
     QLabel ToplamYazarSayısıEtiketi;
-    QLineEdit YazarBulKutusu;
+    MetinKutusu YazarBulKutusu;
     ListeKutusu MakaleListesi;
     QLabel ToplamMakaleSayısıEtiketi;
-    QLineEdit MakaleBulKutusu;
+    MetinKutusu MakaleBulKutusu;
     ZenginMetinKutusu MakaleMetniKutusu;
-    QLineEdit BulKutusu;
+    MetinKutusu BulKutusu;
     Düğme BulButonu, TemizleButonu, TümündeBulButonu, ÇıkışButonu;
     ZenginMetinKutusu YazdırKutusu;
     QTimer Sınırla;
 
-    QMenu MakaleMenüsü, MakaleMetniMenüsü, YardımMenüsü;
-    QAction MakaleEkleMenüsü, MakeleDeğiştirMenüsü, MakaleSilMenüsü, ReferansOluşturMenüsü;
-    QAction TümünüSeçMenüsü, KopyalaMenüsü, YazdırMenüsü, WordeYapıştırMenüsü;
-    QAction AyarlarMenüsü, AyarlarMenüsü1;
-    QAction İçindekilerMenüsü, DizinMenüsü, HatalarıBildirinMenüsü, HakkındaMenüsü;
-    QAction MenüÇizgisi2, MenüÇizgisi3;
+    QMenu MakaleMenüsü{this}, MakaleMetniMenüsü{this}, YardımMenüsü{this};
+    QAction MakaleEkleMenüsü{this}, MakeleDeğiştirMenüsü{this}, MakaleSilMenüsü{this},
+        ReferansOluşturMenüsü{this};
+    QAction TümünüSeçMenüsü{this}, KopyalaMenüsü{this}, YazdırMenüsü{this}, WordeYapıştırMenüsü{this};
+    QAction AyarlarMenüsü{this}, AyarlarMenüsü1{this};
+    QAction İçindekilerMenüsü{this}, DizinMenüsü{this}, HatalarıBildirinMenüsü{this}, HakkındaMenüsü{this};
+    QAction MenüÇizgisi2{this}, MenüÇizgisi3{this};
 
-    int doldurma_ = 0; // number of the newest filling of the article list; an older one stops
+    OdakEtiketi odakEtiketi_;
+    QString sonuçYazarı_; // author of the shown article in the result view
+    int doldurma_ = 0;    // number of the newest filling of the article list; an older one stops
     KapanışNedeni kapanışNedeni_ = KapanışNedeni::Kullanıcı;
     bool soruluyor_ = false; // the exit question stands on the screen
     bool bitti_ = false;     // the exit sequence has run

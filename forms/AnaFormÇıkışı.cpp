@@ -20,6 +20,8 @@ void AnaForm::ÇıkışButonu_Click()
 
 bool AnaForm::Kapat(KapanışNedeni neden)
 {
+    if (soruluyor_) // the window is closing already; the toolkit would pass over a second close
+        return Form_QueryUnload(neden);
     kapanışNedeni_ = neden;
     const auto geri = qScopeGuard([this] { kapanışNedeni_ = KapanışNedeni::Kullanıcı; });
     return close();
@@ -40,8 +42,8 @@ bool AnaForm::Form_QueryUnload(KapanışNedeni neden)
         soruluyor_ = true;
         const auto sorulmuyor = qScopeGuard([this] { soruluyor_ = false; });
         const İletiYeri yer = isMinimized() ? İletiYeri::Ekran : İletiYeri::EtkinPencere;
-        const bool çıkılsın = İletiGöster(Metin(200), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır, yer)
-                              == İletiYanıtı::Evet;
+        const bool çıkılsın =
+            İletiGöster(Metin(200), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır, yer) == İletiYanıtı::Evet;
         if (bitti_) // the system ended the program while the question stood
             return true;
         if (!çıkılsın)

@@ -4,7 +4,6 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 
-#include <QCoreApplication>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -50,9 +49,4 @@ KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::F
     adjustSize();
     const QRect ekran = screen()->availableGeometry();
     move(ekran.center() - rect().center());
-}
-
-void KarşılamaFormu::Boya()
-{
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

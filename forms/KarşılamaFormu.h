@@ -11,9 +11,6 @@ class KarşılamaFormu : public QWidget
 public:
     KarşılamaFormu();
 
-    /// Lets the window paint without letting the user do anything.
-    static void Boya();
-
 private:
     QLabel SimgeKutusu;
     QLabel AdEtiketi;

@@ -54,10 +54,10 @@ void veritabanınıAç()
         reddet(40);
     if (!DosyaVar(grup))
         reddet(45);
-    Motor.emplace(&KarşılamaFormu::Boya);
+    Motor.emplace(&PencereleriBoya);
     Motor->SystemDB(grup);
     ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
-    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, &KarşılamaFormu::Boya);
+    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, &PencereleriBoya);
     KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
     ÇalışmaAlanı->Close();
     ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
@@ -91,7 +91,7 @@ int SubMain(QApplication& uygulama)
 
         KarşılamaFormu karşılama;
         karşılama.show();
-        KarşılamaFormu::Boya();
+        PencereleriBoya();
         sürümüDenetle();
         veritabanınıAç();
 

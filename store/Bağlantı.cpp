@@ -49,8 +49,7 @@ void benzer(sqlite3_context* bağlam, int, sqlite3_value** değerler)
         auto* desen = static_cast<BenzerDeseni*>(sqlite3_get_auxdata(bağlam, 0));
         std::unique_ptr<BenzerDeseni> yeni;
         if (!desen) {
-            const std::string_view utf8 = değerBaytları(değerler[0]);
-            yeni = std::make_unique<BenzerDeseni>(QString::fromUtf8(utf8.data(), qsizetype(utf8.size())));
+            yeni = std::make_unique<BenzerDeseni>(Utf8Metni(değerBaytları(değerler[0])));
             desen = yeni.get();
         }
         const std::string_view metin = değerBaytları(değerler[1]);
@@ -82,6 +81,14 @@ HataNo açmaHatası(const QString& yol)
 
 } // namespace
 
+QString Utf8Metni(std::string_view utf8)
+{
+    QString metin = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    if (utf8.starts_with("\xef\xbb\xbf")) // Qt takes it for a byte order mark
+        metin.prepend(QChar::ByteOrderMark);
+    return metin;
+}
+
 void Bağlantı::Kapatıcı::operator()(sqlite3* db) const noexcept
 {
     sqlite3_close_v2(db);
@@ -107,8 +114,8 @@ Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip
     }
 
     const int bayraklar = kip == AçmaKipi::Oku       ? SQLITE_OPEN_READONLY
-                          : kip == AçmaKipi::OkuYaz ? SQLITE_OPEN_READWRITE
-                                                     : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+                          : kip == AçmaKipi::Oluştur ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
+                                                     : SQLITE_OPEN_READWRITE;
     sqlite3* db = nullptr;
     const int durum = sqlite3_open_v2(QFile::encodeName(yol).constData(), &db, bayraklar, nullptr);
     db_.reset(db);
@@ -136,7 +143,8 @@ Bağlantı::~Bağlantı() = default;
 // The first real read: only now the key is tried.
 void Bağlantı::ilkOkuma()
 {
-    const int durum = sqlite3_exec(db_.get(), "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+    const int durum =
+        sqlite3_exec(db_.get(), "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
     switch (durum & 0xff) {
     case SQLITE_OK:
         return;
@@ -186,6 +194,8 @@ void Bağlantı::hataVer(int durum, bool adımda) const
         throw VeritabanıHatası(HataNo::DeğerÇokUzun, yol_);
     case SQLITE_NOMEM:
         throw std::bad_alloc();
+    case SQLITE_INTERRUPT:
+        throw VeritabanıHatası(HataNo::İşlemDurduruldu);
     case SQLITE_IOERR:
         if (durum == SQLITE_IOERR_SHORT_READ)
             throw VeritabanıHatası(HataNo::DosyaYarım, yol_);
@@ -250,28 +260,36 @@ qint64 Bağlantı::ToplamDeğişim() const
     return sqlite3_total_changes(db_.get());
 }
 
-void Bağlantı::İlerlemeAta(std::function<void()> bildir)
+void Bağlantı::İlerlemeAta(const std::function<void()>& bildir)
 {
-    bildir_ = std::move(bildir);
-    sqlite3_progress_handler(db_.get(), bildir_ ? İlerlemeAdımı : 0, &Bağlantı::ilerleme, this);
+    SürdürmeAta(!bildir ? std::function<bool()>() : [bildir] {
+        bildir();
+        return true;
+    });
+}
+
+void Bağlantı::SürdürmeAta(std::function<bool()> sürsünMü)
+{
+    sürsünMü_ = std::move(sürsünMü);
+    sqlite3_progress_handler(db_.get(), sürsünMü_ ? İlerlemeAdımı : 0, &Bağlantı::ilerleme, this);
 }
 
 int Bağlantı::ilerleme(void* bağlantı)
 {
     auto* kendi = static_cast<Bağlantı*>(bağlantı);
-    if (const qint64 an = şimdi(); an - kendi->sonBildirim_ >= BildirimAralığı) {
-        kendi->bildir_();
-        kendi->sonBildirim_ = şimdi();
-    }
-    return 0;
+    if (şimdi() - kendi->sonBildirim_ < BildirimAralığı)
+        return 0;
+    const bool sürsün = kendi->sürsünMü_();
+    kendi->sonBildirim_ = şimdi();
+    return sürsün ? 0 : 1;
 }
 
 Deyim::Deyim(Bağlantı& bağlantı, const QByteArray& sql) : bağlantı_(bağlantı)
 {
     sqlite3_stmt* deyim = nullptr;
     const char* kalan = nullptr;
-    const int durum = sqlite3_prepare_v2(bağlantı.db_.get(), sql.constData(), static_cast<int>(sql.size()),
-                                         &deyim, &kalan);
+    const int durum =
+        sqlite3_prepare_v2(bağlantı.db_.get(), sql.constData(), static_cast<int>(sql.size()), &deyim, &kalan);
     deyim_.reset(deyim);
     bağlantı.denetle(durum);
     const char* const son = sql.constData() + sql.size();
@@ -333,8 +351,7 @@ qint64 Deyim::Sayı(int sütun) const
 
 QString Deyim::Metin(int sütun) const
 {
-    const std::string_view utf8 = Yazı(sütun);
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return Utf8Metni(Yazı(sütun));
 }
 
 std::string_view Deyim::Yazı(int sütun) const

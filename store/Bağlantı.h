@@ -18,7 +18,11 @@ struct sqlite3_stmt;
 class Deyim;
 
 /// How the key of a file is given.
-enum class AnahtarTürü { Parola, HamAnahtar };
+enum class AnahtarTürü
+{
+    Parola,
+    HamAnahtar
+};
 
 struct Anahtar
 {
@@ -26,14 +30,25 @@ struct Anahtar
     QByteArray değer; ///< a password as UTF-8, or 32 raw bytes
 };
 
-enum class AçmaKipi { Oku, OkuYaz, Oluştur };
+/// YazılabilirseYaz opens for reading what can't be written; what is then written all the same is 3027.
+enum class AçmaKipi
+{
+    Oku,
+    OkuYaz,
+    YazılabilirseYaz,
+    Oluştur
+};
+
+/// The text whose UTF-8 form is stored. A mark at its beginning (U+FEFF) belongs to it.
+QString Utf8Metni(std::string_view utf8);
 
 /// An open encrypted file. Owned by whoever opened it; closes the file when destroyed. Not thread-safe.
 class Bağlantı
 {
 public:
     /// Opens the file, gives the key, registers the Turkish collation and LIKE, and reads once.
-    /// Throws 3024, 3027, 3031 (see OkunamayanDosyaTanısı), 3043, 3045, 3051, 3343, 3901 or 3902. Oluştur refuses an existing file with 3204.
+    /// Throws 3024, 3027, 3031 (see OkunamayanDosyaTanısı), 3043, 3045, 3051, 3343, 3901 or 3902. Oluştur
+    /// refuses an existing file with 3204.
     Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip);
     ~Bağlantı();
     Bağlantı(const Bağlantı&) = delete;
@@ -53,7 +68,9 @@ public:
     qint64 ToplamDeğişim() const; ///< rows changed since opening
 
     /// Called every few thousand steps of a running statement, at most once every 20 ms; empty for none.
-    void İlerlemeAta(std::function<void()> bildir);
+    void İlerlemeAta(const std::function<void()>& bildir);
+    /// The same, but the running statement ends with 3059 when the call returns false.
+    void SürdürmeAta(std::function<bool()> sürsünMü);
 
     const QString& Yol() const { return yol_; }
 
@@ -72,7 +89,7 @@ private:
 
     QString yol_;
     std::unique_ptr<sqlite3, Kapatıcı> db_;
-    std::function<void()> bildir_;
+    std::function<bool()> sürsünMü_;
     qint64 sonBildirim_ = 0; // ms of the steady clock
 };
 

@@ -1,5 +1,6 @@
 #include "store/BenzerDeseni.h"
 
+#include "store/Bağlantı.h"
 #include "text/TürkçeHarfler.h"
 
 #include <algorithm>
@@ -47,6 +48,25 @@ BenzerDeseni::BenzerDeseni(QStringView desen)
             öğeler_.push_back({Tür::Harf, HarfKatla(harf)});
         }
     }
+    bulucuyuKur();
+}
+
+void BenzerDeseni::bulucuyuKur()
+{
+    QString enUzun, şimdiki;
+    for (const Öğe& öğe : öğeler_) {
+        if (öğe.tür == Tür::Harf)
+            şimdiki += QChar(öğe.harf);
+        else
+            şimdiki.clear();
+        if (şimdiki.size() > enUzun.size())
+            enUzun = şimdiki;
+    }
+    if (enUzun.isEmpty())
+        return;
+    bulucu_.emplace(enUzun);
+    bulmakYeter_ = static_cast<std::size_t>(enUzun.size()) + 2 == öğeler_.size() &&
+                   öğeler_.front().tür == Tür::Hepsi && öğeler_.back().tür == Tür::Hepsi;
 }
 
 std::vector<BenzerDeseni::Aralık> BenzerDeseni::aralıklarıOku(QStringView liste)
@@ -124,5 +144,7 @@ bool BenzerDeseni::Uyar(QStringView metin) const
 
 bool BenzerDeseni::Uyar(std::string_view utf8) const
 {
-    return Uyar(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+    if (bulucu_ && !bulucu_->İçerir(utf8))
+        return false;
+    return bulmakYeter_ || Uyar(Utf8Metni(utf8));
 }

@@ -2,9 +2,12 @@
 // of a list; everything else means itself, without regard to case by Turkish rules.
 #pragma once
 
+#include "store/SözcükBulucu.h"
+
 #include <QString>
 #include <QStringView>
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -19,7 +22,15 @@ public:
     bool Uyar(QStringView metin) const;
 
 private:
-    enum class Tür { Harf, TekHarf, Rakam, Liste, DeğilListe, Hepsi };
+    enum class Tür
+    {
+        Harf,
+        TekHarf,
+        Rakam,
+        Liste,
+        DeğilListe,
+        Hepsi
+    };
     struct Aralık
     {
         char32_t ilk, son; // folded, both included
@@ -27,13 +38,17 @@ private:
     struct Öğe
     {
         Tür tür;
-        char16_t harf = 0;           // of Harf, folded
+        char16_t harf = 0;                  // of Harf, folded
         std::vector<Aralık> aralıklar = {}; // of Liste and DeğilListe
     };
 
+    void bulucuyuKur();
     static std::vector<Aralık> aralıklarıOku(QStringView liste);
     /// The units that the item takes at the place, 0 when it does not fit there.
     static qsizetype aldığı(const Öğe& öğe, QStringView metin, qsizetype yer);
 
     std::vector<Öğe> öğeler_;
+    // The longest run of plain letters: a text without it can't fit. Of *word* it is the whole question.
+    std::optional<SözcükBulucu> bulucu_;
+    bool bulmakYeter_ = false;
 };

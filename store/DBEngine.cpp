@@ -19,13 +19,15 @@ void DBEngine::SystemDB(const QString& yol)
 {
     if (!QFileInfo::exists(yol))
         throw VeritabanıHatası(HataNo::DosyaYok, yol);
-    kilit_.emplace(QFileInfo(yol).absolutePath());
+    if (yol == grupYolu_)
+        return;
+    kilit_ = KlasörKilidi(QFileInfo(yol).absolutePath()); // the old one is let go of after it
     grupYolu_ = yol;
 }
 
 Workspace DBEngine::CreateWorkspace(const QString& ad, const QString& kullanıcı, const QString& parola)
 {
-    auto grup = std::make_unique<ÇalışmaGrubu>(grupYolu_);
+    auto grup = std::make_unique<ÇalışmaGrubu>(grupYolu_, AçmaKipi::YazılabilirseYaz);
     if (!grup->HesapGeçerli(kullanıcı, parola))
         throw VeritabanıHatası(HataNo::HesapGeçersiz, kullanıcı);
     return Workspace(std::move(grup), ad, kullanıcı);
@@ -42,7 +44,9 @@ void DBEngine::CompactDatabase(const QString& kaynak, const QString& hedef, cons
         throw VeritabanıHatası(HataNo::DosyaVar, hedef);
 
     const QString parola = BağlantıMetnindenParola(kaynakYereli);
-    ÇalışmaGrubu grup(grupYolu_);
+    // For writing, though nothing is: where the accounts can't be changed, the start stops before the
+    // library is replaced.
+    ÇalışmaGrubu grup(grupYolu_, AçmaKipi::OkuYaz);
     GeçiciDosya kopya(hedef);
     qint64 satırlar = 0;
     {

@@ -30,7 +30,8 @@ public:
     const QString& SystemDB() const { return grupYolu_; }
 
     /// A workspace for an account of the workgroup file. Throws 3029 for an unknown account or a wrong
-    /// password, and what opening the workgroup file throws.
+    /// password, and what opening the workgroup file throws. Where that can't be written, the workspace
+    /// can't change accounts (3027).
     /// @param ad the workspace's own name, may be empty
     Workspace CreateWorkspace(const QString& ad, const QString& kullanıcı, const QString& parola);
 

@@ -9,6 +9,13 @@ Recordset Database::OpenRecordset(const QString& sql) const
     return Recordset(bağlantı_, sql);
 }
 
+void Database::İlerlemeAta(std::function<bool()> sürsünMü) const
+{
+    if (!bağlantı_)
+        throw VeritabanıHatası(HataNo::NesneKapalı);
+    bağlantı_->SürdürmeAta(std::move(sürsünMü));
+}
+
 void Database::TekİşlemdeYap(const std::function<void()>& iş) const
 {
     if (!bağlantı_)

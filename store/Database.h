@@ -24,6 +24,10 @@ public:
     /// unknown names, 3049 for damage, 3420 after Close.
     Recordset OpenRecordset(const QString& sql) const;
 
+    /// Called during long queries, at most once every 20 ms, until it is replaced; an empty one for none.
+    /// It may repaint, but not use this database. The query ends with 3059 when it returns false.
+    void İlerlemeAta(std::function<bool()> sürsünMü) const;
+
     /// Runs the work in one transaction: all that recordsets of this database change in it stands when it
     /// returns, nothing of it when it throws; what it throws comes through. Recordsets that took part in
     /// failed work must not be used again. Throws 3420 after Close, 3045, and 3026 when the disk is full.

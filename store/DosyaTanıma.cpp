@@ -24,11 +24,17 @@ QByteArray dosyaBaşı(const QString& yol)
 
 bool tanınanİmza(const QByteArray& baş)
 {
-    static const std::array<QByteArray, 10> imzalar = {
-        QByteArray("SQLite format 3"), QByteArray("PK\3\4"), QByteArray("%PDF"),
-        QByteArray("\xff\xd8\xff"),    QByteArray("\x89PNG"), QByteArray("{\\rtf"),
-        QByteArray("\x1f\x8b"),        QByteArray("\x7f" "ELF"), QByteArray("\xd0\xcf\x11\xe0"),
-        QByteArray("7z\xbc\xaf")};
+    static const std::array<QByteArray, 10> imzalar = {QByteArray("SQLite format 3"),
+                                                       QByteArray("PK\3\4"),
+                                                       QByteArray("%PDF"),
+                                                       QByteArray("\xff\xd8\xff"),
+                                                       QByteArray("\x89PNG"),
+                                                       QByteArray("{\\rtf"),
+                                                       QByteArray("\x1f\x8b"),
+                                                       QByteArray("\x7f"
+                                                                  "ELF"),
+                                                       QByteArray("\xd0\xcf\x11\xe0"),
+                                                       QByteArray("7z\xbc\xaf")};
     return std::any_of(imzalar.begin(), imzalar.end(),
                        [&baş](const QByteArray& imza) { return baş.startsWith(imza); });
 }

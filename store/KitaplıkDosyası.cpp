@@ -193,10 +193,15 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
         yazılan.İzinVer(eski.st_mode & 07777);
         yazılan.DiskeYaz();
     }
-    if (rename(QFile::encodeName(ara).constData(), QFile::encodeName(hedef).constData()) != 0)
-        sistemHatası(errno, hedef);
+    DosyayıTaşı(ara, hedef);
     geçici.Kalsın();
-    klasörüDiskeYaz(hedef);
+}
+
+void DosyayıTaşı(const QString& yol, const QString& yeniYol)
+{
+    if (rename(QFile::encodeName(yol).constData(), QFile::encodeName(yeniYol).constData()) != 0)
+        sistemHatası(errno, yeniYol);
+    klasörüDiskeYaz(yeniYol);
 }
 
 void DiskeYaz(const QString& yol)

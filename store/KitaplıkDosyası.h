@@ -48,6 +48,9 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
 /// Writes a file's bytes and its folder's entry to the disk.
 void DiskeYaz(const QString& yol);
 
+/// Gives a file another name in its folder, over a file that has it, and writes the folder to the disk.
+void DosyayıTaşı(const QString& yol, const QString& yeniYol);
+
 /// Deletes a file if there is one. Throws 3027 or 3051 when it can't be deleted.
 void DosyayıSil(const QString& yol);
 

@@ -15,8 +15,9 @@ const QString KullanıcıAdı = QStringLiteral("Kullanici");
 const QString KullanıcıParolası = QStringLiteral("Hoppaaa");
 const QString KullanıcıKimliği = QStringLiteral("3Cizgi3");
 
-const QString AçmaMetni = QStringLiteral(";PWD=Pelikan");
-const QString KaynakYereli = QStringLiteral(";Pwd=Pelikan");
+const QString KitaplıkParolası = QStringLiteral("Pelikan");
+const QString AçmaMetni = QStringLiteral(";PWD=") + KitaplıkParolası;
+const QString KaynakYereli = QStringLiteral(";Pwd=") + KitaplıkParolası;
 const QString HedefYereli = QStringLiteral(";LANGID=0x041F;CP=1254;COUNTRY=0");
 
 } // namespace
@@ -34,12 +35,11 @@ void KitaplıkKur(const QString& klasör)
         if (QFileInfo::exists(yol))
             throw VeritabanıHatası(HataNo::DosyaVar, yol);
     }
-    const QString parola = BağlantıMetnindenParola(AçmaMetni);
     GeçiciDosya yarımKitaplık(kitaplık), yarımGrup(grup);
-    KitaplıkOluştur(kitaplık, parola);
+    KitaplıkOluştur(kitaplık, KitaplıkParolası);
     User sahip(SahipAdı);
     sahip.Password(SahipParolası);
-    ÇalışmaGrubu::Oluştur(grup, sahip, parola);
+    ÇalışmaGrubu::Oluştur(grup, sahip, KitaplıkParolası);
     yarımKitaplık.Kalsın();
     yarımGrup.Kalsın();
 }
@@ -58,8 +58,22 @@ void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const D
 {
     const QString kitaplık = KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı);
     const QString kopya = KitaplıkYolu(klasör, KitaplıkDosyaları::Kopya);
-    DosyayıSil(kopya);
-    motor.CompactDatabase(kitaplık, kopya, HedefYereli, dbEncrypt, KaynakYereli);
+    const QString yeni = kopya + u'~';
+    const auto sıkıştır = [&] {
+        DosyayıSil(yeni);
+        motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);
+    };
+    // The last start's copy goes only when a new one is whole: if the library turns out to be damaged, it
+    // is the last good one. Where the disk has no room for both it must make room.
+    try {
+        sıkıştır();
+    } catch (const VeritabanıHatası& hata) {
+        if (hata.Numara() != HataNo::DiskDolu || !QFileInfo::exists(kopya))
+            throw;
+        DosyayıSil(kopya);
+        sıkıştır();
+    }
+    DosyayıTaşı(yeni, kopya);
     DosyayıYerineKoy(kopya, kitaplık, bildir);
 }
 
@@ -84,4 +98,31 @@ Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
 {
     return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), false, false,
                                      AçmaMetni);
+}
+
+Database KitaplığıOku(const Workspace& çalışmaAlanı, const QString& klasör)
+{
+    try {
+        return KitaplıkAç(çalışmaAlanı, klasör);
+    } catch (const VeritabanıHatası& hata) {
+        if (hata.Numara() != HataNo::SaltOkunur)
+            throw;
+        return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), false, true,
+                                         AçmaMetni);
+    }
+}
+
+std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& klasör, AçmaKipi kip, ÇalışmaGrubu& grup)
+{
+    return KitaplıkBağlantısı(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), KitaplıkParolası, kip,
+                              grup);
+}
+
+std::optional<HataNo> YabancıGrup(ÇalışmaGrubu& grup)
+{
+    if (!grup.HesapGeçerli(SahipAdı, SahipParolası))
+        return HataNo::HesapGeçersiz;
+    if (!grup.KitaplıkParolasıDoğru(KitaplıkParolası))
+        return HataNo::ParolaYanlış;
+    return {};
 }

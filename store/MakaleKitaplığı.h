@@ -5,6 +5,13 @@
 
 #include <QString>
 
+#include <memory>
+#include <optional>
+
+class Bağlantı;
+class ÇalışmaGrubu;
+enum class AçmaKipi;
+
 /// The file set, all in the program folder. No namespace, since moc can't read the name of one.
 struct KitaplıkDosyaları
 {
@@ -33,6 +40,15 @@ void KullanıcıHesabınıSil(const Workspace& sahip);
 
 /// Opens the library in the user's workspace.
 Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
+/// The same for those who only read: a file that can't be written is opened for reading, unless a crash
+/// left a write in it that must be rolled back (3027).
+Database KitaplığıOku(const Workspace& çalışmaAlanı, const QString& klasör);
+
+/// Used inside store/ only: what can be told of the library without an engine.
+/// The library file's connection; throws as the function that takes a password.
+std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& klasör, AçmaKipi kip, ÇalışmaGrubu& grup);
+/// 3029 where the file doesn't know the owner account, 3031 where it belongs to another library.
+std::optional<HataNo> YabancıGrup(ÇalışmaGrubu& grup);
 
 /// @param klasör with a separator at its end
 QString KitaplıkYolu(const QString& klasör, QStringView dosya);

@@ -7,7 +7,14 @@
 #include <array>
 
 /// The five columns in the order of the table.
-enum class MakaleSütunu { YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni };
+enum class MakaleSütunu
+{
+    YazarAdi,
+    MakaleBasligi,
+    YayimYeri,
+    YayimTarihi,
+    MakaleMetni
+};
 
 struct SütunTanımı
 {

@@ -34,11 +34,6 @@ void sorguOlmalı(const QString& sql)
         throw VeritabanıHatası(HataNo::Sözdizimi);
 }
 
-QString metin(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 } // namespace
 
 QString Field::Name() const
@@ -56,7 +51,8 @@ void Field::Value(const QString& değer)
     kayıtlar_.bekleyenDeğer(sütun_, değer);
 }
 
-Recordset::Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sorgu) : bağlantı_(std::move(bağlantı))
+Recordset::Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sorgu)
+    : bağlantı_(std::move(bağlantı))
 {
     sorguOlmalı(sorgu);
     const QString sql = sorgu.normalized(QString::NormalizationForm_C); // as the values in the library
@@ -154,7 +150,7 @@ QString Recordset::değer(int sütun)
     if (Eof())
         throw VeritabanıHatası(HataNo::KayıtYok);
     return değiştirilebilir_ ? makaleDeğeri(static_cast<MakaleSütunu>(sütun))
-                             : metin(metinler_[yer_ * sütunlar_.size() + sıra]);
+                             : Utf8Metni(metinler_[yer_ * sütunlar_.size() + sıra]);
 }
 
 QString Recordset::makaleDeğeri(MakaleSütunu sütun)
@@ -168,7 +164,7 @@ QString Recordset::makaleDeğeri(MakaleSütunu sütun)
         return deyim.Metin(0);
     }
     if (sütun == MakaleSütunu::MakaleBasligi && değişimDamgası_ == bağlantı_->ToplamDeğişim())
-        return metin(metinler_[yer_]);
+        return Utf8Metni(metinler_[yer_]);
     return kısaSütunlar().değerler[static_cast<std::size_t>(sütun)];
 }
 

@@ -93,7 +93,12 @@ public:
 
 private:
     friend class Field;
-    enum class Bekleyen { Yok, Ekleme, Değişiklik };
+    enum class Bekleyen
+    {
+        Yok,
+        Ekleme,
+        Değişiklik
+    };
     struct Satır // the current row's short columns
     {
         qint64 değişimDamgası = 0; // they hold as long as nothing was changed since

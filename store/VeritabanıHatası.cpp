@@ -29,6 +29,8 @@ QString cümle(HataNo numara)
         return QStringLiteral("Dosya bozuk; içindekilerin bir bölümü okunamıyor.");
     case HataNo::İzinYok:
         return QStringLiteral("Bu işlem için izin yok.");
+    case HataNo::İşlemDurduruldu:
+        return QStringLiteral("İşlem durduruldu.");
     case HataNo::AlanYok:
         return QStringLiteral("Sorguda tanınmayan bir alan adı var.");
     case HataNo::Sözdizimi:

@@ -7,7 +7,8 @@
 
 /// What went wrong. The numbers are shown to users and never change; where the field has a customary
 /// number for a fault, that number is used.
-enum class HataNo : int {
+enum class HataNo : int
+{
     KayıtYok = 3021,
     KayıtAçılmadı = 3020,
     DosyaYok = 3024,
@@ -20,6 +21,7 @@ enum class HataNo : int {
     DosyaKullanımda = 3045,
     DosyaBozuk = 3049,
     İzinYok = 3051,
+    İşlemDurduruldu = 3059,
     AlanYok = 3061,
     Sözdizimi = 3075,
     TabloYok = 3078,

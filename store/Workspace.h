@@ -67,7 +67,8 @@ public:
     /// that was asked for, 3343 or 3041 when it is no library or a later program's, and what
     /// Bağlantı's constructor throws.
     /// @param bağlantıMetni ";PWD=..." with the keyword in any letter case
-    Database OpenDatabase(const QString& yol, bool tekBaşına, bool saltOku, const QString& bağlantıMetni) const;
+    Database OpenDatabase(const QString& yol, bool tekBaşına, bool saltOku,
+                          const QString& bağlantıMetni) const;
 
     void Close();
 

@@ -77,8 +77,8 @@ void ÇalışmaGrubu::Oluştur(const QString& yol, const User& sahip, const QStr
     işlem.Onayla();
 }
 
-ÇalışmaGrubu::ÇalışmaGrubu(const QString& yol)
-try : bağlantı_(yol, grupAnahtarı(), AçmaKipi::OkuYaz) {
+ÇalışmaGrubu::ÇalışmaGrubu(const QString& yol, AçmaKipi kip)
+try : bağlantı_(yol, grupAnahtarı(), kip) {
     const qint64 sürüm = bağlantı_.Sayı("PRAGMA user_version");
     if (sürüm > BiçimSürümü)
         throw VeritabanıHatası(HataNo::SürümYeni, yol);

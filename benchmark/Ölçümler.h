@@ -1,0 +1,39 @@
+// The measurements. A new one is a function here and a line in main.cpp's lists.
+#pragma once
+
+#include "Ölçüm.h"
+#include "ÖrnekKitaplık.h"
+
+class AnaForm;
+
+/// What the measurements of a closed library work on.
+struct KapalıOrtam
+{
+    const ÖrnekKitaplık& Kitaplık;
+    Tablo& Çizelge;
+};
+
+/// What the measurements of the main window work on; the library is open in the shared variables.
+struct PencereOrtamı
+{
+    const ÖrnekKitaplık& Kitaplık;
+    Tablo& Çizelge;
+    AnaForm& Pencere;
+};
+
+// On a closed library; it is closed again when they return.
+void AçılışıÖlç(const KapalıOrtam& ortam);
+
+// In the main window.
+void YazarListesiniÖlç(const PencereOrtamı& ortam);
+void YazarTıklamasınıÖlç(const PencereOrtamı& ortam);
+void BaşlıkTıklamasınıÖlç(const PencereOrtamı& ortam);
+/// For libraries with long articles.
+void UzunMakaleyiÖlç(const PencereOrtamı& ortam);
+
+/// The start-up's steps with the library in ProgramKlasörü, into the shared variables; and their end.
+void KitaplığıAç();
+void KitaplığıKapat();
+
+/// Throws when a measurement did not do what it is named after.
+void Sağla(bool doğru, const char* beklenen);

@@ -1,0 +1,247 @@
+#include "store/KitaplıkDenetimi.h"
+
+#include "store/KitaplıkDosyası.h"
+#include "store/MakaleKitaplığı.h"
+#include "store/ÇalışmaGrubu.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QUtf8StringView>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 EnÇokMakale = 20; // bad articles that are named one by one
+constexpr qsizetype EnUzunAd = 80; // characters of a title that names one
+
+const QString GünlükEki = QStringLiteral("-journal");
+
+const QString FazlaBaytMetni = QStringLiteral("Dosyanın sonunda kitaplığa ait olmayan baytlar var.");
+const QString DizinMetni =
+    QStringLiteral("Bir dizin tabloyla uyuşmuyor; program dizinleri bir sonraki açılışta yeniden kurar.");
+const QString YarımMetni = QStringLiteral(
+    "%1 dosyasında yarım kalmış bir yazma var; dosya bir sonraki açılışta ondan önceki durumuna döner.");
+const QString KesmeMetni = QStringLiteral("%1 makalenin yazar adında ya da başlığında kesme işareti (') var; "
+                                          "program bunları bulup gösteremez.");
+
+// The sum keeps the table's own order out of it, so that the rows come from an index and a damaged page
+// of the table costs only its own ones.
+constexpr auto MakalelerSql = "SELECT Kimlik, MakaleBasligi FROM Makaleler ORDER BY Kimlik+0";
+constexpr auto SatırSql = "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
+                          " FROM Makaleler WHERE Kimlik=?1";
+
+bool adSütunu(MakaleSütunu sütun)
+{
+    return sütun == MakaleSütunu::YazarAdi || sütun == MakaleSütunu::MakaleBasligi;
+}
+
+DenetimBulgusu bulgu(QStringView dosya, HataNo numara, const QString& metin)
+{
+    return {dosya.toString(), numara, metin};
+}
+
+// The error's own sentence may name a copy, so only its number is used.
+DenetimBulgusu bulgu(QStringView dosya, const VeritabanıHatası& hata)
+{
+    return bulgu(dosya, hata.Numara(), VeritabanıHatası(hata.Numara()).Açıklama());
+}
+
+/// Checks one library; whoever makes one takes the result when both files are done.
+class Denetçi
+{
+public:
+    Denetçi(const QString& klasör, const DenetimBildirimi& bildir)
+        : kilit_(klasör), klasör_(klasör), bildir_(bildir)
+    {
+    }
+
+    void ÇalışmaGrubunuDenetle();
+    void VeritabanınıDenetle(); ///< after the workgroup file
+    DenetimSonucu Sonuç() { return std::move(sonuç_); }
+
+private:
+    struct Kaynak
+    {
+        QString klasör;
+        AçmaKipi kip;
+    };
+
+    void dene(QStringView dosya, const std::function<void()>& iş);
+    void ekle(const DenetimBulgusu& yeni);
+    QString geçiciKlasör() const;
+    Kaynak kaynak(QStringView dosya);
+
+    void yapı(Bağlantı& kitaplık);
+    void satırlar(Bağlantı& kitaplık);
+    std::optional<DenetimBulgusu> satırKusuru(Deyim& satır);
+
+    KlasörKilidi kilit_;
+    QString klasör_;
+    const DenetimBildirimi& bildir_;
+    QTemporaryDir geçici_; // holds encrypted files only
+    std::unique_ptr<ÇalışmaGrubu> grup_;
+    DenetimSonucu sonuç_;
+    qint64 kesmeİşaretli_ = 0;
+};
+
+void Denetçi::ekle(const DenetimBulgusu& yeni)
+{
+    if (std::find(sonuç_.Bulgular.begin(), sonuç_.Bulgular.end(), yeni) == sonuç_.Bulgular.end())
+        sonuç_.Bulgular.push_back(yeni);
+}
+
+void Denetçi::dene(QStringView dosya, const std::function<void()>& iş)
+{
+    try {
+        iş();
+    } catch (const VeritabanıHatası& hata) {
+        ekle(bulgu(dosya, hata));
+    }
+}
+
+QString Denetçi::geçiciKlasör() const
+{
+    if (!geçici_.isValid())
+        throw VeritabanıHatası(HataNo::DiskHatası, QDir::tempPath());
+    return geçici_.path() + u'/';
+}
+
+/// The folder in which the file can be opened without being changed.
+Denetçi::Kaynak Denetçi::kaynak(QStringView dosya)
+{
+    const QString asıl = QFileInfo(KitaplıkYolu(klasör_, dosya)).canonicalFilePath();
+    if (asıl.isEmpty() || QFileInfo(asıl + GünlükEki).size() == 0)
+        return {klasör_, AçmaKipi::Oku};
+    sonuç_.Notlar.append(YarımMetni.arg(dosya));
+    for (const QString& ek : {QString(), GünlükEki}) {
+        const QString kopya = KitaplıkYolu(geçiciKlasör(), dosya) + ek;
+        if (!QFile::copy(asıl + ek, kopya) ||
+            !QFile::setPermissions(kopya, QFile::ReadOwner | QFile::WriteOwner))
+            throw VeritabanıHatası(HataNo::DiskHatası, kopya);
+    }
+    return {geçiciKlasör(), AçmaKipi::OkuYaz};
+}
+
+void Denetçi::ÇalışmaGrubunuDenetle()
+{
+    const QStringView dosya = KitaplıkDosyaları::ÇalışmaGrubu;
+    const Kaynak yer = kaynak(dosya);
+    dene(dosya, [&] {
+        auto grup = std::make_unique<ÇalışmaGrubu>(KitaplıkYolu(yer.klasör, dosya), yer.kip);
+        grup->Hesaplar();
+        const std::optional<HataNo> yabancı = YabancıGrup(*grup);
+        grup_ = std::move(grup);
+        if (yabancı)
+            throw VeritabanıHatası(*yabancı);
+    });
+    if (grup_)
+        return;
+    // With any sound workgroup file the library can be looked at.
+    const QString yedek = geçiciKlasör() + QStringLiteral("yedek/");
+    QDir().mkpath(yedek);
+    KitaplıkKur(yedek);
+    grup_ = std::make_unique<ÇalışmaGrubu>(KitaplıkYolu(yedek, dosya));
+}
+
+void Denetçi::VeritabanınıDenetle()
+{
+    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    const Kaynak yer = kaynak(dosya);
+    dene(dosya, [&] {
+        const auto kitaplık = KitaplıkBağlantısı(yer.klasör, yer.kip, *grup_);
+        dene(dosya, [&] { yapı(*kitaplık); });
+        satırlar(*kitaplık);
+    });
+    if (kesmeİşaretli_ > 0)
+        sonuç_.Notlar.append(KesmeMetni.arg(kesmeİşaretli_));
+}
+
+void Denetçi::yapı(Bağlantı& kitaplık)
+{
+    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    if (QFileInfo(kitaplık.Yol()).size() >
+        kitaplık.Sayı("PRAGMA page_count") * kitaplık.Sayı("PRAGMA page_size"))
+        ekle(bulgu(dosya, HataNo::DosyaBozuk, FazlaBaytMetni));
+    kitaplık.İlerlemeAta([this] { bildir_(0, 0); });
+    Deyim deyim(kitaplık, "PRAGMA integrity_check");
+    while (deyim.Adım()) {
+        const QString ileti = deyim.Metin(0);
+        if (ileti.contains(u" index "))
+            ekle(bulgu(dosya, HataNo::DosyaBozuk, DizinMetni));
+        else if (ileti != u"ok")
+            throw VeritabanıHatası(HataNo::DosyaBozuk);
+    }
+    kitaplık.İlerlemeAta({});
+}
+
+void Denetçi::satırlar(Bağlantı& kitaplık)
+{
+    std::vector<std::pair<qint64, QString>> makaleler;
+    for (Deyim deyim(kitaplık, MakalelerSql); deyim.Adım();)
+        makaleler.emplace_back(deyim.Sayı(0), Utf8Metni(deyim.Baytlar(1)).left(EnUzunAd));
+    sonuç_.MakaleSayısı = qint64(makaleler.size());
+
+    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    qint64 okunan = 0, kusurlu = 0;
+    Deyim satır(kitaplık, SatırSql);
+    for (const auto& [kimlik, başlık] : makaleler) {
+        std::optional<DenetimBulgusu> kusur = satırKusuru(satır.Bağla(1, kimlik));
+        satır.Sıfırla();
+        if (kusur && ++kusurlu <= EnÇokMakale) {
+            kusur->Metin = QStringLiteral("“%1” başlıklı makale: %2").arg(başlık, kusur->Metin);
+            ekle(*kusur);
+        }
+        bildir_(++okunan, sonuç_.MakaleSayısı);
+    }
+    if (kusurlu > EnÇokMakale)
+        ekle(bulgu(dosya, HataNo::DosyaBozuk, QStringLiteral("Toplam %1 makale kusurlu.").arg(kusurlu)));
+}
+
+std::optional<DenetimBulgusu> Denetçi::satırKusuru(Deyim& satır)
+try {
+    if (!satır.Adım()) // it stands in the index only
+        throw VeritabanıHatası(HataNo::DosyaBozuk);
+    bool kesmeİşaretli = false;
+    for (std::size_t i = 0; i < MakaleSütunları.size(); ++i) {
+        const auto sütun = static_cast<MakaleSütunu>(i);
+        const std::string_view utf8 = satır.Yazı(int(i));
+        if (!QUtf8StringView(utf8.data(), qsizetype(utf8.size())).isValidUtf8())
+            throw VeritabanıHatası(HataNo::DosyaBozuk);
+        const QString değer = Utf8Metni(utf8);
+        if (const QString sorun = DeğerSorunu(değer, sütun); !sorun.isEmpty())
+            return bulgu(KitaplıkDosyaları::Veritabanı, HataNo::DeğerGeçersiz, sorun);
+        kesmeİşaretli |= adSütunu(sütun) && değer.contains(u'\'');
+    }
+    kesmeİşaretli_ += kesmeİşaretli ? 1 : 0;
+    return {};
+} catch (const VeritabanıHatası& hata) {
+    return bulgu(KitaplıkDosyaları::Veritabanı, hata);
+}
+
+} // namespace
+
+DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi& bildir)
+{
+    Denetçi denetçi(klasör, bildir);
+    denetçi.ÇalışmaGrubunuDenetle();
+    denetçi.VeritabanınıDenetle();
+    return denetçi.Sonuç();
+}
+
+QString DeğerSorunu(const QString& değer, MakaleSütunu sütun)
+{
+    const auto [ad, enUzun] = Tanım(sütun);
+    if (değer.contains(QChar(u'\0')))
+        return QStringLiteral("%1 alanında kullanılamayan bir karakter (NUL) var.").arg(ad);
+    if (!değer.isValidUtf16())
+        return QStringLiteral("%1 alanında yarım bir karakter (eşi olmayan \\uD800–\\uDFFF) var.").arg(ad);
+    if (değer.size() > enUzun)
+        return QStringLiteral("%1 alanı çok uzun: %2 karakter; en çok %3 olabilir.")
+            .arg(ad, QString::number(değer.size()), QString::number(enUzun));
+    if (adSütunu(sütun) && değer.trimmed().isEmpty())
+        return QStringLiteral("%1 alanı boş.").arg(ad);
+    return {};
+}

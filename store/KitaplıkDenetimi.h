@@ -1,0 +1,40 @@
+// Finds out what is wrong with a library, changing nothing.
+#pragma once
+
+#include "store/MakaleTablosu.h"
+#include "store/VeritabanıHatası.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+struct DenetimBulgusu
+{
+    QString Dosya; ///< without its folder
+    HataNo Numara;
+    QString Metin; ///< Turkish, whole sentences
+
+    bool operator==(const DenetimBulgusu&) const = default;
+};
+
+struct DenetimSonucu
+{
+    std::vector<DenetimBulgusu> Bulgular;
+    QStringList Notlar; ///< Turkish sentences about what is odd but does no harm
+    qint64 MakaleSayısı = 0;
+};
+
+/// Called during the check with the number of articles read and of all; both 0 before the first one.
+using DenetimBildirimi = std::function<void(qint64, qint64)>;
+
+/// Checks both files of a closed library, each even where the other one is damaged. Where a crash left
+/// a write unfinished, a copy is checked, so that the files stay as they are.
+/// Throws 3045 while the library is in use, 3024 when there is no such folder, 3043 when a copy is needed
+/// and can't be made.
+/// @param klasör with a separator at its end
+DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi& bildir);
+
+/// Why an article can't have this value, as a Turkish sentence; empty where it can.
+QString DeğerSorunu(const QString& değer, MakaleSütunu sütun);

@@ -1,0 +1,86 @@
+#include "DenemeProgramı.h"
+
+#include "app/OrtakDeğişkenlerModülü.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTimer>
+
+DenemeProgramı::DenemeProgramı(const QList<Makale>& makaleler) : kitaplık_(makaleler)
+{
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ayarlar_.path());
+    AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - Belgenar 1.00");
+    AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\Belgenar");
+    ProgramKlasörü = kitaplık_.Klasör();
+    Aç();
+}
+
+DenemeProgramı::~DenemeProgramı()
+{
+    Kapat();
+}
+
+void DenemeProgramı::Aç()
+{
+    Motor.emplace();
+    Motor->SystemDB(kitaplık_.Yol(KitaplıkDosyaları::ÇalışmaGrubu));
+    {
+        const Workspace sahip = SahipÇalışmaAlanı(*Motor);
+        VeritabanınıSıkıştır(*Motor, ProgramKlasörü, {});
+        KullanıcıHesabınıHazırla(sahip);
+    }
+    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
+    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
+}
+
+void DenemeProgramı::Kapat()
+{
+    Veritabanı.reset();
+    ÇalışmaAlanı.reset();
+    Motor.reset();
+}
+
+KutuYanıtlayıcı::KutuYanıtlayıcı(Yanıt yanıt, std::function<void(QMessageBox&)> önce)
+    : saat_(std::make_unique<QTimer>())
+{
+    QObject::connect(saat_.get(), &QTimer::timeout, saat_.get(), [this, yanıt, önce = std::move(önce)] {
+        auto* kutu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!kutu || !kutu->isVisible())
+            return;
+        ++Sayı;
+        Metin = kutu->text();
+        if (önce)
+            önce(*kutu);
+        switch (yanıt) {
+        case Yanıt::Tamam:
+            kutu->button(QMessageBox::Ok)->click();
+            break;
+        case Yanıt::Evet:
+            kutu->button(QMessageBox::Yes)->click();
+            break;
+        case Yanıt::Hayır:
+            kutu->button(QMessageBox::No)->click();
+            break;
+        case Yanıt::Kapat:
+            kutu->close();
+            break;
+        }
+    });
+    saat_->start(20);
+}
+
+KutuYanıtlayıcı::~KutuYanıtlayıcı() = default;
+
+void Yaz(QWidget& kontrol, const QString& metin)
+{
+    for (const QChar harf : metin) {
+        QKeyEvent basış(QEvent::KeyPress, harf.unicode() < 128 ? harf.toUpper().unicode() : 0, Qt::NoModifier,
+                        harf);
+        QApplication::sendEvent(&kontrol, &basış);
+        QKeyEvent bırakış(QEvent::KeyRelease, basış.key(), Qt::NoModifier, harf);
+        QApplication::sendEvent(&kontrol, &bırakış);
+    }
+}
