@@ -4,6 +4,8 @@
 
 #include "DenemeKitaplığı.h"
 
+#include "forms/AnaForm.h"
+
 #include <QTemporaryDir>
 
 #include <functional>
@@ -48,6 +50,29 @@ public:
 
 private:
     std::unique_ptr<class QTimer> saat_;
+};
+
+/// The main window on such a folder, for the tests that drive it.
+struct AnaFormDenemesi
+{
+    explicit AnaFormDenemesi(const QList<Makale>& makaleler) : Program(makaleler) {}
+    /// Loads and shows the window.
+    void Göster()
+    {
+        Form = std::make_unique<AnaForm>();
+        Form->Göster();
+    }
+    template<class T> T& Bul(const QString& ad)
+    {
+        return *static_cast<T*>(Form->findChild<QWidget*>(ad)); // no class of ours carries Q_OBJECT
+    }
+    ListeKutusu& Yazarlar() { return Bul<ListeKutusu>(QStringLiteral("YazarListesi")); }
+    ListeKutusu& Makaleler() { return Bul<ListeKutusu>(QStringLiteral("MakaleListesi")); }
+    ZenginMetinKutusu& Metin() { return Bul<ZenginMetinKutusu>(QStringLiteral("MakaleMetniKutusu")); }
+    QString Etiket(const QString& ad) { return Bul<QLabel>(ad).text(); }
+
+    DenemeProgramı Program;
+    std::unique_ptr<AnaForm> Form;
 };
 
 /// Types letters as a keyboard does; Qt's own helper knows ASCII only.

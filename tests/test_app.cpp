@@ -12,6 +12,8 @@
 #include <QSettings>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class TestApp : public QObject
 {
     Q_OBJECT
@@ -42,12 +44,12 @@ void TestApp::systemVersion_data()
         QTest::newRow(name) << platform << major << pack << fits;
     };
     row("not NT", 0, 3, {}, true);
-    row("NT 3", 2, 3, QStringLiteral("Service Pack 5"), false);
+    row("NT 3", 2, 3, u"Service Pack 5"_s, false);
     row("NT 4 bare", 2, 4, {}, true);
-    row("NT 4 SP 1", 2, 4, QStringLiteral("Service Pack 1"), false);
-    row("NT 4 SP 2 behind NUL", 2, 4, QStringLiteral("Service Pack 2") + QChar(u'\0') + u'x', false);
-    row("NT 4 SP 3", 2, 4, QStringLiteral("Service Pack 3"), true);
-    row("later NT", 2, 10, QStringLiteral("Service Pack 1"), true);
+    row("NT 4 SP 1", 2, 4, u"Service Pack 1"_s, false);
+    row("NT 4 SP 2 behind NUL", 2, 4, u"Service Pack 2"_s + QChar(u'\0') + u'x', false);
+    row("NT 4 SP 3", 2, 4, u"Service Pack 3"_s, true);
+    row("later NT", 2, 10, u"Service Pack 1"_s, true);
 }
 
 void TestApp::systemVersion()
@@ -87,12 +89,12 @@ void TestApp::numbersFromSettings_data()
     QTest::addColumn<double>("number");
     QTest::addColumn<int>("index");
     QTest::newRow("absent") << QString() << 7.0 << 7;
-    QTest::newRow("number") << QStringLiteral(" 3 ") << 3.0 << 3;
-    QTest::newRow("word") << QStringLiteral("ikı") << 0.0 << 0;
-    QTest::newRow("empty") << QStringLiteral("") << 0.0 << 0;
-    QTest::newRow("not finite") << QStringLiteral("inf") << 0.0 << 0;
-    QTest::newRow("beyond 16 bits") << QStringLiteral("70000") << 70000.0 << -1;
-    QTest::newRow("huge") << QStringLiteral("-1e300") << -1e300 << -1;
+    QTest::newRow("number") << u" 3 "_s << 3.0 << 3;
+    QTest::newRow("word") << u"ikı"_s << 0.0 << 0;
+    QTest::newRow("empty") << u""_s << 0.0 << 0;
+    QTest::newRow("not finite") << u"inf"_s << 0.0 << 0;
+    QTest::newRow("beyond 16 bits") << u"70000"_s << 70000.0 << -1;
+    QTest::newRow("huge") << u"-1e300"_s << -1e300 << -1;
 }
 
 void TestApp::numbersFromSettings()
@@ -145,11 +147,10 @@ void TestApp::boxAnswers()
     QString başlık;
     KutuYanıtlayıcı yanıt(KutuYanıtlayıcı::Yanıt(press),
                           [&başlık](QMessageBox& kutu) { başlık = kutu.windowTitle(); });
-    const auto sonuç =
-        İletiGöster(QStringLiteral("<b>a & b</b>"), İletiSimgesi::Soru, İletiDüğmeleri(buttons));
+    const auto sonuç = İletiGöster(u"<b>a & b</b>"_s, İletiSimgesi::Soru, İletiDüğmeleri(buttons));
     QTEST(int(sonuç), "answer");
-    QCOMPARE(yanıt.Metin, QStringLiteral("<b>a & b</b>"));
-    QCOMPARE(başlık, QStringLiteral("Belgenar"));
+    QCOMPARE(yanıt.Metin, u"<b>a & b</b>"_s);
+    QCOMPARE(başlık, u"Belgenar"_s);
 }
 
 void TestApp::keptOnScreen_data()
@@ -179,7 +180,7 @@ void TestApp::keptOnScreen()
 
 void TestApp::policies()
 {
-    const auto hata = [] { throw VeritabanıHatası(HataNo::DiskDolu, QStringLiteral("x")); };
+    const auto hata = [] { throw VeritabanıHatası(HataNo::DiskDolu, u"x"_s); };
     int çalışan = 0;
     AdımAdım([&] { ++çalışan; }, hata, [&] { ++çalışan; });
     QCOMPARE(çalışan, 2);
@@ -195,7 +196,7 @@ void TestApp::policies()
         hata();
     } catch (...) {
         QCOMPARE(ŞimdikiHata().Numara, 3026);
-        QVERIFY(ŞimdikiHata().Açıklama.endsWith(QStringLiteral("(x)")));
+        QVERIFY(ŞimdikiHata().Açıklama.endsWith(u"(x)"_s));
     }
 }
 
@@ -204,12 +205,12 @@ void TestApp::secondInstance()
     const QTemporaryDir klasör;
     qputenv("XDG_RUNTIME_DIR", klasör.path().toLocal8Bit());
     QFile::setPermissions(klasör.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    TekÖrnek ilk(QStringLiteral("Başlık"));
+    TekÖrnek ilk(u"Başlık"_s);
     int çağrı = 0;
     ilk.ÖneÇağrıldı = [&çağrı] { ++çağrı; };
     QVERIFY(!ilk.BaşkasıVar());
-    QVERIFY(!TekÖrnek(QStringLiteral("Başka başlık")).BaşkasıVar());
-    QVERIFY(TekÖrnek(QStringLiteral("Başlık")).BaşkasıVar());
+    QVERIFY(!TekÖrnek(u"Başka başlık"_s).BaşkasıVar());
+    QVERIFY(TekÖrnek(u"Başlık"_s).BaşkasıVar());
     QTRY_COMPARE(çağrı, 1);
 }
 

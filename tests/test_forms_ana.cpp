@@ -1,35 +1,25 @@
+// The main window: loading, browsing, layout, exit.
 #include "DenemeProgramı.h"
 
 #include "app/Ayarlar.h"
 #include "app/Görünüm.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "forms/AnaForm.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 const QList<Makale> Örnek = {
-    {QStringLiteral("ALİ KAYA"), QStringLiteral("ZEYTİN"),
-     QStringLiteral("Zeytin ağacı uzun yaşar. Deniz kıyısında.")},
-    {QStringLiteral("ALİ KAYA"), QStringLiteral("ARI"), QStringLiteral("Arı çiçekten bal yapar.")},
-    {QStringLiteral("ALİ KAYAALP"), QStringLiteral("DENİZ"),
-     QStringLiteral("Bir deniz gördüm, o deniz maviydi.")},
-    {QStringLiteral("IŞIL SU"), QStringLiteral("IŞIK"), QStringLiteral("Işık ve deniz.")},
-    {QStringLiteral("O'NEİL KESME"), QStringLiteral("KESME"), QStringLiteral("Kesmeli.")},
+    {u"ALİ KAYA"_s, u"ZEYTİN"_s, u"Zeytin ağacı uzun yaşar."_s},
+    {u"ALİ KAYA"_s, u"ARI"_s, u"Arı bal yapar."_s},
+    {u"ALİ KAYAALP"_s, u"DENİZ"_s, u"Bir deniz gördüm."_s},
+    {u"IŞIL SU"_s, u"IŞIK"_s, u"Işık ve deniz."_s},
+    {u"O'NEİL KESME"_s, u"KESME"_s, u"Kesmeli."_s},
 };
-
-QString yol(const char* ad)
-{
-    return QString::fromUtf8(ad);
-}
 
 } // namespace
 
@@ -38,111 +28,77 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { t = std::make_unique<AnaFormDenemesi>(Örnek); }
+    void cleanup() { t.reset(); }
     void controlsAndMenus();
     void emptyLibrary();
     void browsing();
     void lastAuthor_data();
     void lastAuthor();
-    void brokenQueryShowsNothing();
     void displaySettings_data();
     void displaySettings();
     void layout_data();
     void layout();
-    void minimumSize();
     void exitQuestion();
     void exitSaves_data();
     void exitSaves();
     void closedWhileFilling();
 
 private:
-    void show(const QList<Makale>& articles = Örnek);
-    ListeKutusu& list(const char* name)
+    QRect place(const QString& name)
     {
-        return *static_cast<ListeKutusu*>(form->findChild<QListView*>(yol(name)));
+        const auto& w = t->Bul<QWidget>(name);
+        return {w.mapTo(t->Form->centralWidget(), QPoint(0, 0)), w.size()};
     }
-    QLabel& label(const char* name) { return *form->findChild<QLabel*>(yol(name)); }
-    QString shownText() { return form->findChild<QPlainTextEdit*>(yol("MakaleMetniKutusu"))->toPlainText(); }
-    QRect place(const char* name)
-    {
-        const auto* w = form->findChild<QWidget*>(yol(name));
-        return {w->mapTo(form->centralWidget(), QPoint(0, 0)), w->size()};
-    }
-
-    std::unique_ptr<DenemeProgramı> program;
-    std::unique_ptr<AnaForm> form;
+    std::unique_ptr<AnaFormDenemesi> t;
 };
-
-void TestMainWindow::init()
-{
-    program = std::make_unique<DenemeProgramı>(Örnek);
-}
-
-void TestMainWindow::cleanup()
-{
-    form.reset();
-    program.reset();
-}
-
-void TestMainWindow::show(const QList<Makale>& articles)
-{
-    if (&articles != &Örnek)
-        program.reset(), program = std::make_unique<DenemeProgramı>(articles);
-    form = std::make_unique<AnaForm>();
-    form->Göster();
-}
 
 void TestMainWindow::controlsAndMenus()
 {
-    show();
-    QCOMPARE(form->windowTitle(), AnaPencereBaşlığı);
-    QWidget* kontrol = &list("YazarListesi");
-    const QStringList sıra = {yol("YazarBulKutusu"),    yol("MakaleListesi"), yol("MakaleBulKutusu"),
-                              yol("MakaleMetniKutusu"), yol("BulKutusu"),     yol("ÇıkışButonu")};
-    for (const QString& ad : sıra) { // the find buttons are disabled and so passed over
-        do
+    t->Göster();
+    QCOMPARE(t->Form->windowTitle(), AnaPencereBaşlığı);
+    const QStringList sıra = {u"YazarListesi"_s,    u"YazarBulKutusu"_s,    u"MakaleListesi"_s,
+                              u"MakaleBulKutusu"_s, u"MakaleMetniKutusu"_s, u"BulKutusu"_s};
+    QWidget* kontrol = &t->Yazarlar();
+    for (int i = 0; i < sıra.size(); ++i) {
+        const QWidget* bağlı = t->Bul<QLabel>(u"Etiket%1"_s.arg(i)).buddy();
+        QCOMPARE(bağlı, kontrol);
+        QCOMPARE(bağlı->objectName(), sıra[i]);
+        QVERIFY(!bağlı->accessibleName().isEmpty() && !bağlı->accessibleName().contains(u'&'));
+        do // the find buttons are disabled and so passed over
             kontrol = kontrol->nextInFocusChain();
         while (!(kontrol->focusPolicy() & Qt::TabFocus) || !kontrol->isEnabled() || !kontrol->isVisible());
-        QCOMPARE(kontrol->objectName(), ad);
     }
-    const QStringList bağlılar = {yol("YazarListesi"),    yol("YazarBulKutusu"),    yol("MakaleListesi"),
-                                  yol("MakaleBulKutusu"), yol("MakaleMetniKutusu"), yol("BulKutusu")};
-    for (int i = 0; i < 6; ++i) {
-        const QWidget* bağlı = label(qPrintable(QStringLiteral("Etiket%1").arg(i))).buddy();
-        QCOMPARE(bağlı->objectName(), bağlılar[i]);
-        QVERIFY(!bağlı->accessibleName().isEmpty() && !bağlı->accessibleName().contains(u'&'));
-    }
-    QCOMPARE(form->findChild<QAction*>(yol("MakeleDeğiştirMenüsü"))->text(),
-             yol("Seçili Makaleyi &Değiştir"));
-    QCOMPARE(form->findChild<QMenu*>(yol("YardımMenüsü"))->actions().size(), 5);
+    QCOMPARE(kontrol->objectName(), u"ÇıkışButonu"_s);
+    QCOMPARE(t->Form->findChild<QAction*>(u"MakeleDeğiştirMenüsü"_s)->text(), u"Seçili Makaleyi &Değiştir"_s);
+    QCOMPARE(t->Form->findChild<QMenu*>(u"YardımMenüsü"_s)->actions().size(), 5);
 }
 
 void TestMainWindow::emptyLibrary()
 {
-    show({});
-    QCOMPARE(list("YazarListesi").ListCount(), 0);
-    QCOMPARE(label("ToplamYazarSayısıEtiketi").text(), yol("Toplam: 0"));
-    QCOMPARE(label("ToplamMakaleSayısıEtiketi").text(), yol("Toplam: 0"));
-    QTest::keyClick(&list("YazarListesi"), Qt::Key_Down);
-    QVERIFY(shownText().isEmpty());
+    t.reset();
+    t = std::make_unique<AnaFormDenemesi>(QList<Makale>());
+    t->Göster();
+    QCOMPARE(t->Etiket(u"ToplamYazarSayısıEtiketi"_s), u"Toplam: 0"_s);
+    QCOMPARE(t->Etiket(u"ToplamMakaleSayısıEtiketi"_s), u"Toplam: 0"_s);
+    QTest::keyClick(&t->Yazarlar(), Qt::Key_Down);
+    QVERIFY(t->Metin().Text().isEmpty());
 }
 
 void TestMainWindow::browsing()
 {
-    show();
-    ListeKutusu& yazarlar = list("YazarListesi");
-    ListeKutusu& makaleler = list("MakaleListesi");
+    t->Göster();
+    ListeKutusu& yazarlar = t->Yazarlar();
+    ListeKutusu& makaleler = t->Makaleler();
     QCOMPARE(yazarlar.ListCount(), 4);
-    QCOMPARE(yazarlar.Text(), yol("ALİ KAYA"));
+    QCOMPARE(yazarlar.Text(), u"ALİ KAYA"_s);
     QCOMPARE(makaleler.ListCount(), 2);
-    QCOMPARE(makaleler.Text(), yol("ARI"));
-    QVERIFY(shownText().startsWith(yol("Arı")));
+    QCOMPARE(makaleler.Text(), u"ARI"_s);
     QTest::keyClick(&makaleler, Qt::Key_Down);
-    QVERIFY(shownText().startsWith(yol("Zeytin")));
+    QVERIFY(t->Metin().Text().startsWith(u"Zeytin"_s));
     yazarlar.ListIndex(2);
-    QCOMPARE(shownText(), yol("Işık ve deniz."));
-    QCOMPARE(label("ToplamMakaleSayısıEtiketi").text(), yol("Toplam: 1"));
+    QCOMPARE(t->Metin().Text(), u"Işık ve deniz."_s);
+    QCOMPARE(t->Etiket(u"ToplamMakaleSayısıEtiketi"_s), u"Toplam: 1"_s);
 
     // A press on the selected author brings its articles back after the list was emptied.
     makaleler.Clear();
@@ -150,11 +106,18 @@ void TestMainWindow::browsing()
                       yazarlar.visualRect(yazarlar.currentIndex()).center());
     QCOMPARE(makaleler.ListCount(), 1);
 
+    // A name that breaks its query shows nothing, rather than another author's articles.
+    yazarlar.ListIndex(3);
+    QCOMPARE(makaleler.ListCount(), 0);
+    QVERIFY(t->Metin().Text().isEmpty());
+    yazarlar.ListIndex(0);
+    QCOMPARE(makaleler.ListCount(), 2);
+
     // An empty table leaves the author list as it was.
-    Recordset kayıtlar = Veritabanı->OpenRecordset(yol("SELECT * FROM [Makaleler]"));
+    Recordset kayıtlar = Veritabanı->OpenRecordset(u"SELECT * FROM [Makaleler]"_s);
     for (; !kayıtlar.Eof(); kayıtlar.MoveNext())
         kayıtlar.Delete();
-    form->YazarListesiYükle();
+    t->Form->YazarListesiYükle();
     QCOMPARE(yazarlar.ListCount(), 4);
 }
 
@@ -163,11 +126,11 @@ void TestMainWindow::lastAuthor_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<int>("index");
     QTest::newRow("absent") << QString() << 0;
-    QTest::newRow("second") << QStringLiteral("1") << 1;
-    QTest::newRow("beyond the last") << QStringLiteral("4") << -1;
-    QTest::newRow("huge") << QStringLiteral("1e30") << -1;
-    QTest::newRow("negative") << QStringLiteral("-1") << -1;
-    QTest::newRow("nonsense") << QStringLiteral("son") << 0;
+    QTest::newRow("second") << u"1"_s << 1;
+    QTest::newRow("beyond the last") << u"4"_s << -1;
+    QTest::newRow("huge") << u"1e30"_s << -1;
+    QTest::newRow("negative") << u"-1"_s << -1;
+    QTest::newRow("nonsense") << u"son"_s << 0;
 }
 
 void TestMainWindow::lastAuthor()
@@ -176,21 +139,9 @@ void TestMainWindow::lastAuthor()
     QFETCH(int, index);
     if (!stored.isNull())
         AyarYaz(u"Son Yazar", stored);
-    show();
-    QCOMPARE(list("YazarListesi").ListIndex(), index);
-    QCOMPARE(list("MakaleListesi").ListCount() > 0, index >= 0);
-}
-
-void TestMainWindow::brokenQueryShowsNothing()
-{
-    show();
-    list("YazarListesi").ListIndex(3);
-    QCOMPARE(list("YazarListesi").Text(), yol("O'NEİL KESME"));
-    QCOMPARE(list("MakaleListesi").ListCount(), 0);
-    QVERIFY(shownText().isEmpty());
-    QCOMPARE(label("ToplamMakaleSayısıEtiketi").text(), yol("Toplam: 0"));
-    list("YazarListesi").ListIndex(0);
-    QCOMPARE(list("MakaleListesi").ListCount(), 2);
+    t->Göster();
+    QCOMPARE(t->Yazarlar().ListIndex(), index);
+    QCOMPARE(t->Makaleler().ListCount() > 0, index >= 0);
 }
 
 void TestMainWindow::displaySettings_data()
@@ -200,8 +151,8 @@ void TestMainWindow::displaySettings_data()
     QTest::addColumn<int>("points");
     QTest::addColumn<QColor>("background");
     QTest::newRow("defaults") << QString() << QString() << 11 << QColor(Qt::white);
-    QTest::newRow("chosen") << QStringLiteral("4") << QStringLiteral("1") << 14 << QColor(255, 0, 255);
-    QTest::newRow("outside") << QStringLiteral("9") << QStringLiteral("-3") << 9 << QColor(Qt::black);
+    QTest::newRow("chosen") << u"4"_s << u"1"_s << 14 << QColor(255, 0, 255);
+    QTest::newRow("outside") << u"9"_s << u"-3"_s << 9 << QColor(Qt::black);
 }
 
 void TestMainWindow::displaySettings()
@@ -212,97 +163,82 @@ void TestMainWindow::displaySettings()
         AyarYaz(u"Yazi Boyutu", size);
         AyarYaz(u"Zemin Rengi", colour);
     }
-    AyarYaz(u"Yazi Tipi", QStringLiteral("DejaVu Sans"));
-    show();
-    const auto* metin = form->findChild<QPlainTextEdit*>(yol("MakaleMetniKutusu"));
-    QCOMPARE(metin->font().family(), yol("DejaVu Sans"));
-    QTEST(metin->font().pointSize(), "points");
-    QTEST(metin->palette().color(QPalette::Base), "background");
-    QVERIFY(metin->palette().color(QPalette::Text) != metin->palette().color(QPalette::Base));
+    AyarYaz(u"Yazi Tipi", u"DejaVu Sans"_s);
+    t->Göster();
+    QCOMPARE(t->Metin().FontName(), u"DejaVu Sans"_s);
+    QTEST(t->Metin().FontSize(), "points");
+    const QPalette palet = t->Metin().palette();
+    QTEST(palet.color(QPalette::Base), "background");
+    QVERIFY(palet.color(QPalette::Text) != palet.color(QPalette::Base));
 }
 
 void TestMainWindow::layout_data()
 {
-    QTest::addColumn<QSize>("outer"); // pixels of 15 twips
-    QTest::newRow("smallest") << QSize(648, 480);
-    QTest::newRow("usual") << QSize(1000, 700);
-    QTest::newRow("large") << QSize(3840, 2160);
+    QTest::addColumn<QSize>("asked"); // pixels of 15 twips
+    QTest::addColumn<QSize>("outer");
+    QTest::newRow("below the minimum") << QSize(100, 100) << QSize(648, 480);
+    QTest::newRow("usual") << QSize(1000, 700) << QSize(1000, 700);
+    QTest::newRow("large") << QSize(3840, 2160) << QSize(3840, 2160);
 }
 
 void TestMainWindow::layout()
 {
+    QFETCH(QSize, asked);
     QFETCH(QSize, outer);
-    AyarYaz(u"Tam Ekran", QStringLiteral("0"));
-    show();
-    form->resize(outer - (form->frameGeometry().size() - form->size()));
-    QTRY_COMPARE(form->frameGeometry().size(), outer);
+    AyarYaz(u"Tam Ekran", u"1"_s); // anything but 2 is a normal window
+    t->Göster();
+    QVERIFY(!t->Form->isMaximized());
+    t->Form->resize(asked - (t->Form->frameGeometry().size() - t->Form->size()));
+    QTRY_COMPARE(t->Form->frameGeometry().size(), outer);
     const int w = outer.width() * 15, h = outer.height() * 15;
-    QCOMPARE(place("YazarListesi").width(), Piksel(w / 3));
-    QCOMPARE(place("MakaleBulKutusu").top(), Piksel(h - 1490));
-    QCOMPARE(place("MakaleMetniKutusu"), QRect(Piksel(w / 3 + 495), place("YazarListesi").top(),
-                                               Piksel(w - w / 3 - 940), Piksel(h - 2355)));
-    QCOMPARE(place("TemizleButonu").topLeft(), QPoint(Piksel(w / 3 + 2275), Piksel(h - 1350)));
-    QCOMPARE(place("ÇıkışButonu").left(), Piksel(w - 1560));
+    QCOMPARE(place(u"YazarListesi"_s).width(), Piksel(w / 3));
+    QCOMPARE(place(u"MakaleBulKutusu"_s).top(), Piksel(h - 1490));
+    QCOMPARE(place(u"MakaleMetniKutusu"_s), QRect(Piksel(w / 3 + 495), place(u"YazarListesi"_s).top(),
+                                                  Piksel(w - w / 3 - 940), Piksel(h - 2355)));
+    QCOMPARE(place(u"TemizleButonu"_s).topLeft(), QPoint(Piksel(w / 3 + 2275), Piksel(h - 1350)));
+    QCOMPARE(place(u"ÇıkışButonu"_s).left(), Piksel(w - 1560));
 
     // Nothing overlaps, nothing is cut off.
-    const std::initializer_list<const char*> kontroller = {"Altlık",
-                                                           "YazarBulKutusu",
-                                                           "MakaleListesi",
-                                                           "MakaleBulKutusu",
-                                                           "MakaleMetniKutusu",
-                                                           "BulKutusu",
-                                                           "BulButonu",
-                                                           "TemizleButonu",
-                                                           "TümündeBulButonu",
-                                                           "ÇıkışButonu",
-                                                           "Etiket0",
-                                                           "Etiket1",
-                                                           "Etiket2",
-                                                           "Etiket3",
-                                                           "Etiket4",
-                                                           "Etiket5",
-                                                           "ToplamYazarSayısıEtiketi",
-                                                           "ToplamMakaleSayısıEtiketi"};
-    for (auto a = kontroller.begin(); a != kontroller.end(); ++a) {
-        QVERIFY2(form->centralWidget()->rect().contains(place(*a)), *a);
-        for (auto b = a + 1; b != kontroller.end(); ++b)
-            QVERIFY2(!place(*a).intersects(place(*b)), qPrintable(yol(*a) + u' ' + yol(*b)));
+    QStringList adlar = {u"Altlık"_s,
+                         u"YazarBulKutusu"_s,
+                         u"MakaleListesi"_s,
+                         u"MakaleBulKutusu"_s,
+                         u"MakaleMetniKutusu"_s,
+                         u"BulKutusu"_s,
+                         u"BulButonu"_s,
+                         u"TemizleButonu"_s,
+                         u"TümündeBulButonu"_s,
+                         u"ÇıkışButonu"_s,
+                         u"ToplamYazarSayısıEtiketi"_s,
+                         u"ToplamMakaleSayısıEtiketi"_s};
+    for (int i = 0; i < 6; ++i)
+        adlar.append(u"Etiket%1"_s.arg(i));
+    for (int i = 0; i < adlar.size(); ++i) {
+        QVERIFY2(t->Form->centralWidget()->rect().contains(place(adlar[i])), qPrintable(adlar[i]));
+        for (int j = 0; j < i; ++j)
+            QVERIFY2(!place(adlar[i]).intersects(place(adlar[j])), qPrintable(adlar[i] + u' ' + adlar[j]));
     }
-}
-
-void TestMainWindow::minimumSize()
-{
-    AyarYaz(u"Tam Ekran", QStringLiteral("1"));
-    show();
-    QVERIFY(!form->isMaximized());
-    form->resize(100, 100);
-    QTRY_COMPARE(form->frameGeometry().size(), QSize(648, 480));
 }
 
 void TestMainWindow::exitQuestion()
 {
-    show();
-    list("YazarListesi").ListIndex(2);
+    t->Göster();
+    t->Yazarlar().ListIndex(2);
     {
         KutuYanıtlayıcı hayır(KutuYanıtlayıcı::Yanıt::Hayır);
-        QTest::keyClick(form.get(), Qt::Key_Escape);
+        QTest::keyClick(t->Form.get(), Qt::Key_Escape);
         QTRY_COMPARE(hayır.Sayı, 1);
-        QCOMPARE(hayır.Metin, yol("Programdan çıkmak istediğinizden emin misiniz?"));
+        QCOMPARE(hayır.Metin, u"Programdan çıkmak istediğinizden emin misiniz?"_s);
+        QVERIFY(!t->Form->Kapat(KapanışNedeni::OturumSonu));
+        QCOMPARE(hayır.Sayı, 2);
     }
-    QVERIFY(form->isVisible());
+    QVERIFY(t->Form->isVisible());
     QVERIFY(AyarOku(u"Son Yazar", {}).isNull());
-    {
-        KutuYanıtlayıcı hayır(KutuYanıtlayıcı::Yanıt::Kapat);
-        QVERIFY(!form->Kapat(KapanışNedeni::OturumSonu));
-        QCOMPARE(hayır.Sayı, 1);
-    }
-    { // the system ends the program while the question stands
-        KutuYanıtlayıcı evet(KutuYanıtlayıcı::Yanıt::Hayır,
-                             [this](QMessageBox&) { form->Kapat(KapanışNedeni::GörevYöneticisi); });
-        QVERIFY(form->close());
-        QCOMPARE(evet.Sayı, 1);
-    }
-    QCOMPARE(AyarOku(u"Son Yazar", {}), QStringLiteral("2"));
+    // The system ends the program while the question stands.
+    KutuYanıtlayıcı bitir(KutuYanıtlayıcı::Yanıt::Hayır,
+                          [this](QMessageBox&) { t->Form->Kapat(KapanışNedeni::GörevYöneticisi); });
+    QVERIFY(t->Form->close());
+    QCOMPARE(AyarOku(u"Son Yazar", {}), u"2"_s);
 }
 
 void TestMainWindow::exitSaves_data()
@@ -310,9 +246,9 @@ void TestMainWindow::exitSaves_data()
     QTest::addColumn<int>("author");
     QTest::addColumn<int>("state"); // 0 normal, 1 minimised, 2 maximised
     QTest::addColumn<QString>("savedAuthor");
-    QTest::newRow("first author, normal") << 0 << 0 << QStringLiteral("old");
-    QTest::newRow("third author, maximised") << 2 << 2 << QStringLiteral("2");
-    QTest::newRow("none, minimised") << -1 << 1 << QStringLiteral("old");
+    QTest::newRow("first author, normal") << 0 << 0 << u"old"_s;
+    QTest::newRow("third author, maximised") << 2 << 2 << u"2"_s;
+    QTest::newRow("none, minimised") << -1 << 1 << u"old"_s;
 }
 
 void TestMainWindow::exitSaves()
@@ -320,39 +256,34 @@ void TestMainWindow::exitSaves()
     QFETCH(int, author);
     QFETCH(int, state);
     AyarYaz(u"Tam Ekran", QString::number(state));
-    AyarYaz(u"Sol", QStringLiteral("1500"));
-    AyarYaz(u"Ust", QStringLiteral("1200"));
-    show();
-    AyarYaz(u"Son Yazar", QStringLiteral("old"));
-    AyarYaz(u"Sol", QStringLiteral("old"));
-    list("YazarListesi").ListIndex(author);
+    AyarYaz(u"Sol", u"1500"_s);
+    AyarYaz(u"Ust", u"1200"_s);
+    t->Göster();
+    AyarYaz(u"Son Yazar", u"old"_s);
+    AyarYaz(u"Sol", u"old"_s);
+    t->Yazarlar().ListIndex(author);
     if (state == 1)
-        form->setWindowState(Qt::WindowMinimized);
-    QVERIFY(form->Kapat(KapanışNedeni::GörevYöneticisi));
+        t->Form->setWindowState(Qt::WindowMinimized);
+    QVERIFY(t->Form->Kapat(KapanışNedeni::GörevYöneticisi));
     QTEST(AyarOku(u"Son Yazar", {}), "savedAuthor");
     QCOMPARE(AyarOku(u"Tam Ekran", {}), QString::number(state));
-    QCOMPARE(AyarOku(u"Sol", {}), state == 0 ? QStringLiteral("1500") : QStringLiteral("old"));
-
+    QCOMPARE(AyarOku(u"Sol", {}), state == 0 ? u"1500"_s : u"old"_s);
     // The library is let go of, and its account has lived for this run only.
     QVERIFY(!Veritabanı && !ÇalışmaAlanı);
-    const std::vector<User> hesaplar = SahipÇalışmaAlanı(*Motor).Users().Tümü();
-    QCOMPARE(hesaplar.size(), std::size_t(1));
+    QCOMPARE(SahipÇalışmaAlanı(*Motor).Users().Tümü().size(), std::size_t(1));
 }
 
 void TestMainWindow::closedWhileFilling()
 {
     QList<Makale> çok;
     for (int i = 0; i < 20000; ++i)
-        çok.append(
-            {QStringLiteral("ÇOK YAZAR"), QStringLiteral("BAŞLIK %1").arg(i), QStringLiteral("metin")});
-    program.reset();
-    program = std::make_unique<DenemeProgramı>(QList<Makale>());
+        çok.append({u"AAA YAZAR"_s, u"BAŞLIK %1"_s.arg(i), u"metin"_s});
     Veritabanı->TekİşlemdeYap([&] { Ekle(*Veritabanı, çok); });
-    form = std::make_unique<AnaForm>();
-    QTimer::singleShot(0, form.get(), [this] { form->Kapat(KapanışNedeni::GörevYöneticisi); });
-    form->Göster();
-    QVERIFY(!Veritabanı);
-    QVERIFY(!form->isVisible() || list("MakaleListesi").ListCount() <= 20000);
+    t->Göster();
+    QTimer::singleShot(0, t->Form.get(), [this] { t->Form->Kapat(KapanışNedeni::GörevYöneticisi); });
+    t->Makaleler().Clear();
+    t->Yazarlar().Click();
+    QTRY_VERIFY(!Veritabanı);
 }
 
 QTEST_MAIN(TestMainWindow)

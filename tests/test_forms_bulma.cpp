@@ -3,7 +3,6 @@
 
 #include "app/Görünüm.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "forms/AnaForm.h"
 
 #include <QAction>
 #include <QApplication>
@@ -11,23 +10,17 @@
 #include <QTest>
 #include <QTextBlock>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QList<Makale> Örnek = {
-    {QStringLiteral("ALİ KAYA"), QStringLiteral("ZEYTİN"),
-     QStringLiteral("Deniz kıyısında deniz, bir deniz var. İri taş\nsu deniz")},
-    {QStringLiteral("ALİ KAYA"), QStringLiteral("ARI"), QStringLiteral("Arı çiçekten bal yapar.")},
-    {QStringLiteral("ALİ KAYAALP"), QStringLiteral("IŞIK"),
-     QStringLiteral("IŞIK ve ışık ve ISIK. 100% [köşe")},
-    {QStringLiteral("ALİ KAYA"), QStringLiteral("ÇAY"),
-     QStringLiteral("İİİ 😀 e\u0301 deniz 😀 DENİZ son denizde")},
-    {QStringLiteral("ZEKİ SU"), QStringLiteral("BOŞLUK"), QStringLiteral("a  bb bb bb c")},
+    {u"ALİ KAYA"_s, u"ZEYTİN"_s, u"Deniz kıyısında deniz, bir deniz var. İri taş\nsu deniz"_s},
+    {u"ALİ KAYA"_s, u"ARI"_s, u"Arı çiçekten bal yapar."_s},
+    {u"ALİ KAYAALP"_s, u"IŞIK"_s, u"IŞIK ve ışık ve ISIK. 100% [köşe"_s},
+    {u"ALİ KAYA"_s, u"ÇAY"_s, u"İİİ 😀 e\u0301 deniz 😀 DENİZ son denizde"_s},
+    {u"ZEKİ SU"_s, u"BOŞLUK"_s, u"a  bb bb bb c"_s},
 };
-
-QString yol(const char* ad)
-{
-    return QString::fromUtf8(ad);
-}
 
 } // namespace
 
@@ -37,7 +30,7 @@ class TestFinding : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { t.reset(); }
     void listPrefix_data();
     void listPrefix();
     void typedKeys_data();
@@ -57,21 +50,13 @@ private slots:
     void inputDuringSearch();
 
 private:
-    template<class T> T& find(const char* name)
-    {
-        return *static_cast<T*>(form->findChild<QWidget*>(yol(name)));
-    }
-    ListeKutusu& authors() { return find<ListeKutusu>("YazarListesi"); }
-    ListeKutusu& articles() { return find<ListeKutusu>("MakaleListesi"); }
-    ZenginMetinKutusu& text() { return find<ZenginMetinKutusu>("MakaleMetniKutusu"); }
-    MetinKutusu& word() { return find<MetinKutusu>("BulKutusu"); }
-    QPushButton& button(const char* name) { return find<QPushButton>(name); }
-    QString label(const char* name) { return find<QLabel>(name).text(); }
+    MetinKutusu& word() { return t->Bul<MetinKutusu>(u"BulKutusu"_s); }
+    QPushButton& button(const QString& name) { return t->Bul<QPushButton>(name); }
     /// The marked stretches of the shown text.
     QStringList marked()
     {
         QStringList found;
-        for (QTextBlock block = text().document()->begin(); block.isValid(); block = block.next()) {
+        for (QTextBlock block = t->Metin().document()->begin(); block.isValid(); block = block.next()) {
             for (auto part = block.begin(); !part.atEnd(); ++part) {
                 const QTextCharFormat format = part.fragment().charFormat();
                 if (format.foreground().color() == QColor(Qt::red) && format.fontWeight() == QFont::Bold)
@@ -82,8 +67,8 @@ private:
     }
     void showArticle(int author, int article)
     {
-        authors().ListIndex(author);
-        articles().ListIndex(article);
+        t->Yazarlar().ListIndex(author);
+        t->Makaleler().ListIndex(article);
     }
     void focus(QWidget& widget)
     {
@@ -91,22 +76,14 @@ private:
         QApplication::processEvents();
     }
 
-    std::unique_ptr<DenemeProgramı> program;
-    std::unique_ptr<AnaForm> form;
+    std::unique_ptr<AnaFormDenemesi> t;
 };
 
 void TestFinding::init()
 {
-    program = std::make_unique<DenemeProgramı>(Örnek);
-    form = std::make_unique<AnaForm>();
-    form->Göster();
-    QVERIFY(QTest::qWaitForWindowActive(form.get()));
-}
-
-void TestFinding::cleanup()
-{
-    form.reset();
-    program.reset();
+    t = std::make_unique<AnaFormDenemesi>(Örnek);
+    t->Göster();
+    QVERIFY(QTest::qWaitForWindowActive(t->Form.get()));
 }
 
 void TestFinding::listPrefix_data()
@@ -114,72 +91,72 @@ void TestFinding::listPrefix_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("author");
     QTest::addColumn<int>("titles");
-    QTest::newRow("lower case") << QStringLiteral("zek") << 2 << 1;
-    QTest::newRow("beginning of two names takes the first") << QStringLiteral("ali kaya") << 0 << 3;
-    QTest::newRow("the longer name") << QStringLiteral("ali kayaa") << 1 << 1;
-    QTest::newRow("dotless i is another letter") << QStringLiteral("alı") << -1 << 0;
-    QTest::newRow("no author") << QStringLiteral("x") << -1 << 0;
+    QTest::newRow("lower case") << u"zek"_s << 2 << 1;
+    QTest::newRow("beginning of two names takes the first") << u"ali kaya"_s << 0 << 3;
+    QTest::newRow("the longer name") << u"ali kayaa"_s << 1 << 1;
+    QTest::newRow("dotless i is another letter") << u"alı"_s << -1 << 0;
+    QTest::newRow("no author") << u"x"_s << -1 << 0;
 }
 
 void TestFinding::listPrefix()
 {
     QFETCH(QString, typed);
-    auto& kutu = find<MetinKutusu>("YazarBulKutusu");
+    auto& kutu = t->Bul<MetinKutusu>(u"YazarBulKutusu"_s);
     Yaz(kutu, typed);
-    QTEST(authors().ListIndex(), "author");
-    QTEST(articles().ListCount(), "titles");
-    QCOMPARE(text().Text().isEmpty(), articles().ListCount() == 0);
-    QCOMPARE(label("ToplamMakaleSayısıEtiketi"), QStringLiteral("Toplam: %1").arg(articles().ListCount()));
+    QTEST(t->Yazarlar().ListIndex(), "author");
+    QTEST(t->Makaleler().ListCount(), "titles");
+    QCOMPARE(t->Metin().Text().isEmpty(), t->Makaleler().ListCount() == 0);
+    QCOMPARE(t->Etiket(u"ToplamMakaleSayısıEtiketi"_s), u"Toplam: %1"_s.arg(t->Makaleler().ListCount()));
 
     // Emptying the box changes nothing.
-    const int önceki = authors().ListIndex();
+    const int önceki = t->Yazarlar().ListIndex();
     kutu.Text({});
-    QCOMPARE(authors().ListIndex(), önceki);
+    QCOMPARE(t->Yazarlar().ListIndex(), önceki);
 
     // The title box only moves the selection.
     showArticle(0, 0);
-    Yaz(find<MetinKutusu>("MakaleBulKutusu"), QStringLiteral("z"));
-    QCOMPARE(articles().Text(), yol("ZEYTİN"));
-    Yaz(find<MetinKutusu>("MakaleBulKutusu"), QStringLiteral("zz"));
-    QCOMPARE(articles().ListIndex(), -1);
-    QCOMPARE(articles().ListCount(), 3);
+    Yaz(t->Bul<MetinKutusu>(u"MakaleBulKutusu"_s), u"z"_s);
+    QCOMPARE(t->Makaleler().Text(), u"ZEYTİN"_s);
+    Yaz(t->Bul<MetinKutusu>(u"MakaleBulKutusu"_s), u"zz"_s);
+    QCOMPARE(t->Makaleler().ListIndex(), -1);
+    QCOMPARE(t->Makaleler().ListCount(), 3);
 }
 
 void TestFinding::typedKeys_data()
 {
-    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QString>("box");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
-    const QString harfler = QStringLiteral("iışğüöçß'a1");
-    QTest::newRow("author") << QByteArray("YazarBulKutusu") << harfler << QStringLiteral("İIŞĞÜÖÇß´A1");
-    QTest::newRow("title") << QByteArray("MakaleBulKutusu") << harfler << QStringLiteral("İIŞĞÜÖÇß´A1");
-    QTest::newRow("word") << QByteArray("BulKutusu") << harfler << QStringLiteral("iışğüöçß´a1");
+    const QString harfler = u"iışğüöçß'a1"_s;
+    QTest::newRow("author") << u"YazarBulKutusu"_s << harfler << u"İIŞĞÜÖÇß´A1"_s;
+    QTest::newRow("title") << u"MakaleBulKutusu"_s << harfler << u"İIŞĞÜÖÇß´A1"_s;
+    QTest::newRow("word") << u"BulKutusu"_s << harfler << u"iışğüöçß´a1"_s;
 }
 
 void TestFinding::typedKeys()
 {
-    QFETCH(QByteArray, box);
+    QFETCH(QString, box);
     QFETCH(QString, typed);
-    auto& kutu = find<MetinKutusu>(box);
+    auto& kutu = t->Bul<MetinKutusu>(box);
     Yaz(kutu, typed);
     QTEST(kutu.Text(), "shown");
     QInputMethodEvent birleşik;
-    birleşik.setCommitString(QStringLiteral("'"));
+    birleşik.setCommitString(u"'"_s);
     QApplication::sendEvent(&kutu, &birleşik);
     QVERIFY(kutu.Text().endsWith(u'´'));
     QTest::keyClick(&kutu, Qt::Key_Backspace);
     QTEST(kutu.Text(), "shown");
-    QApplication::clipboard()->setText(QStringLiteral("o'neil"));
+    QApplication::clipboard()->setText(u"o'neil"_s);
     kutu.clear();
     kutu.paste();
-    QCOMPARE(kutu.Text(), QStringLiteral("o'neil"));
+    QCOMPARE(kutu.Text(), u"o'neil"_s);
 }
 
 void TestFinding::enterMovesOn()
 {
-    const QStringList sıra = {yol("YazarListesi"),    yol("YazarBulKutusu"),    yol("MakaleListesi"),
-                              yol("MakaleBulKutusu"), yol("MakaleMetniKutusu"), yol("BulKutusu")};
-    focus(authors());
+    const QStringList sıra = {u"YazarListesi"_s,    u"YazarBulKutusu"_s,    u"MakaleListesi"_s,
+                              u"MakaleBulKutusu"_s, u"MakaleMetniKutusu"_s, u"BulKutusu"_s};
+    focus(t->Yazarlar());
     for (const QString& ad : sıra) {
         QCOMPARE(QApplication::focusWidget()->objectName(), ad);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -190,17 +167,17 @@ void TestFinding::enterMovesOn()
 void TestFinding::focusColours()
 {
     const QColor mavi = EkranRengi(OdakMavisi, {});
-    const char* const kontroller[] = {"YazarListesi",    "YazarBulKutusu",    "MakaleListesi",
-                                      "MakaleBulKutusu", "MakaleMetniKutusu", "BulKutusu"};
-    word().Text(QStringLiteral("sözcük"));
+    const QString kontroller[] = {u"YazarListesi"_s,    u"YazarBulKutusu"_s,    u"MakaleListesi"_s,
+                                  u"MakaleBulKutusu"_s, u"MakaleMetniKutusu"_s, u"BulKutusu"_s};
+    word().Text(u"sözcük"_s);
     for (int i = 0; i < 6; ++i) {
-        focus(find<QWidget>(kontroller[i]));
+        focus(t->Bul<QWidget>(kontroller[i]));
         for (int j = 0; j < 6; ++j) {
-            const auto& etiket = find<QLabel>(qPrintable(QStringLiteral("Etiket%1").arg(j)));
+            const auto& etiket = t->Bul<QLabel>(u"Etiket%1"_s.arg(j));
             QCOMPARE(etiket.palette().color(QPalette::WindowText) == mavi, i == j);
         }
     }
-    QCOMPARE(word().selectedText(), QStringLiteral("sözcük"));
+    QCOMPARE(word().selectedText(), u"sözcük"_s);
 }
 
 void TestFinding::marks_data()
@@ -210,16 +187,13 @@ void TestFinding::marks_data()
     QTest::addColumn<QString>("sought");
     QTest::addColumn<QStringList>("stretches");
     // ALİ KAYA: 0 ARI, 1 ÇAY, 2 ZEYTİN
-    QTest::newRow("only between two blanks")
-        << 0 << 2 << QStringLiteral("deniz") << QStringList{yol(" deniz")};
-    QTest::newRow("in capitals") << 0 << 2 << QStringLiteral("DENİZ") << QStringList{yol(" deniz")};
-    QTest::newRow("i is not ı") << 0 << 2 << QStringLiteral("denız") << QStringList{};
-    QTest::newRow("behind emoji and marks")
-        << 0 << 1 << QStringLiteral("deniz") << QStringList{yol(" deniz"), yol(" DENİZ")};
-    QTest::newRow("an emoji") << 0 << 1 << QStringLiteral("😀") << QStringList{yol(" 😀"), yol(" 😀")};
-    QTest::newRow("neighbours share their blank")
-        << 2 << 0 << QStringLiteral("bb") << QStringList{yol(" bb bb bb")};
-    QTest::newRow("one letter") << 0 << 2 << QStringLiteral("a") << QStringList{};
+    QTest::newRow("only between two blanks") << 0 << 2 << u"deniz"_s << QStringList{u" deniz"_s};
+    QTest::newRow("in capitals") << 0 << 2 << u"DENİZ"_s << QStringList{u" deniz"_s};
+    QTest::newRow("i is not ı") << 0 << 2 << u"denız"_s << QStringList{};
+    QTest::newRow("behind emoji and marks") << 0 << 1 << u"deniz"_s << QStringList{u" deniz"_s, u" DENİZ"_s};
+    QTest::newRow("an emoji") << 0 << 1 << u"😀"_s << QStringList{u" 😀"_s, u" 😀"_s};
+    QTest::newRow("neighbours share their blank") << 2 << 0 << u"bb"_s << QStringList{u" bb bb bb"_s};
+    QTest::newRow("one letter") << 0 << 2 << u"a"_s << QStringList{};
 }
 
 void TestFinding::marks()
@@ -233,59 +207,59 @@ void TestFinding::marks()
     KutuYanıtlayıcı tamam(KutuYanıtlayıcı::Yanıt::Tamam);
     QTest::keyClick(&word(), Qt::Key_Return);
     QTEST(marked(), "stretches");
-    QVERIFY(!text().textCursor().hasSelection());
+    QVERIFY(!t->Metin().textCursor().hasSelection());
 }
 
 void TestFinding::marksLeaveTheArticleAlone()
 {
     showArticle(0, 2);
-    const QString önce = text().Text();
-    word().Text(QStringLiteral("deniz"));
-    button("BulButonu").click();
+    const QString önce = t->Metin().Text();
+    word().Text(u"deniz"_s);
+    button(u"BulButonu"_s).click();
     QCOMPARE(marked().size(), 1);
-    QCOMPARE(text().Text(), önce);
-    QCOMPARE(text().SelStart(), önce.indexOf(yol(" deniz var")) + 1);
+    QCOMPARE(t->Metin().Text(), önce);
+    QCOMPARE(t->Metin().SelStart(), önce.indexOf(u" deniz var"_s) + 1);
     // The next article is not coloured by the marks of this one, and clearing takes them away.
-    articles().ListIndex(0);
+    t->Makaleler().ListIndex(0);
     QVERIFY(marked().isEmpty());
-    articles().ListIndex(2);
-    button("BulButonu").click();
-    button("TemizleButonu").click();
+    t->Makaleler().ListIndex(2);
+    button(u"BulButonu"_s).click();
+    button(u"TemizleButonu"_s).click();
     QVERIFY(marked().isEmpty());
-    QCOMPARE(text().Text(), önce);
+    QCOMPARE(t->Metin().Text(), önce);
 }
 
 void TestFinding::findMessages()
 {
     showArticle(0, 0);
-    word().Text(QStringLiteral("yoktur"));
+    word().Text(u"yoktur"_s);
     {
         KutuYanıtlayıcı tamam(KutuYanıtlayıcı::Yanıt::Tamam);
-        button("BulButonu").click();
-        QCOMPARE(tamam.Metin, yol("Aradığınız sözcük metin içinde bulunamadı!"));
+        button(u"BulButonu"_s).click();
+        QCOMPARE(tamam.Metin, u"Aradığınız sözcük metin içinde bulunamadı!"_s);
     }
-    QCOMPARE(form->focusWidget(), &word());
-    articles().Clear();
-    text().Text({});
-    word().Text(QStringLiteral("y")); // an empty pane comes before the length of the word
+    QCOMPARE(t->Form->focusWidget(), &word());
+    t->Makaleler().Clear();
+    t->Metin().Text({});
+    word().Text(u"y"_s); // an empty pane comes before the length of the word
     KutuYanıtlayıcı tamam(KutuYanıtlayıcı::Yanıt::Tamam);
-    button("BulButonu").click();
-    QCOMPARE(tamam.Metin, yol("Lütfen listeden bir makale seçiniz!"));
-    QCOMPARE(form->focusWidget(), &articles());
+    button(u"BulButonu"_s).click();
+    QCOMPARE(tamam.Metin, u"Lütfen listeden bir makale seçiniz!"_s);
+    QCOMPARE(t->Form->focusWidget(), &t->Makaleler());
 }
 
 void TestFinding::findInAll_data()
 {
     QTest::addColumn<QString>("sought");
     QTest::addColumn<QStringList>("titles");
-    QTest::newRow("inside words too") << QStringLiteral("DENİZ") << QStringList{yol("ÇAY"), yol("ZEYTİN")};
-    QTest::newRow("dotless") << QStringLiteral("ışık") << QStringList{yol("IŞIK")};
-    QTest::newRow("wildcard") << QStringLiteral("çi?ek*bal") << QStringList{yol("ARI")};
-    QTest::newRow("digit") << QStringLiteral("##0%") << QStringList{yol("IŞIK")};
-    QTest::newRow("list") << QStringLiteral("[ab]rı") << QStringList{yol("ARI")};
-    QTest::newRow("unclosed bracket") << QStringLiteral("[köşe") << QStringList{yol("IŞIK")};
-    QTest::newRow("emoji") << QStringLiteral("😀 deniz") << QStringList{yol("ÇAY")};
-    QTest::newRow("nothing") << QStringLiteral("yoktur") << QStringList{};
+    QTest::newRow("inside words too") << u"DENİZ"_s << QStringList{u"ÇAY"_s, u"ZEYTİN"_s};
+    QTest::newRow("dotless") << u"ışık"_s << QStringList{u"IŞIK"_s};
+    QTest::newRow("wildcard") << u"çi?ek*bal"_s << QStringList{u"ARI"_s};
+    QTest::newRow("digit") << u"##0%"_s << QStringList{u"IŞIK"_s};
+    QTest::newRow("list") << u"[ab]rı"_s << QStringList{u"ARI"_s};
+    QTest::newRow("unclosed bracket") << u"[köşe"_s << QStringList{u"IŞIK"_s};
+    QTest::newRow("emoji") << u"😀 deniz"_s << QStringList{u"ÇAY"_s};
+    QTest::newRow("nothing") << u"yoktur"_s << QStringList{};
 }
 
 void TestFinding::findInAll()
@@ -293,61 +267,61 @@ void TestFinding::findInAll()
     QFETCH(QString, sought);
     QFETCH(QStringList, titles);
     word().Text(sought);
-    button("TümündeBulButonu").click();
+    button(u"TümündeBulButonu"_s).click();
     QStringList bulunan;
-    for (int i = 0; i < articles().ListCount(); ++i)
-        bulunan.append(articles().Item(i));
+    for (int i = 0; i < t->Makaleler().ListCount(); ++i)
+        bulunan.append(t->Makaleler().Item(i));
     QCOMPARE(bulunan, titles);
-    QCOMPARE(label("Etiket5"), titles.isEmpty() ? yol("makale bulunamadı!")
-                                                : QStringLiteral("%1 makale bulundu!").arg(titles.size()));
-    QCOMPARE(text().Text().isEmpty(), titles.isEmpty());
-    QVERIFY(titles.isEmpty() ? word().hasFocus() : articles().hasFocus());
-    QVERIFY(!find<QWidget>("Altlık").isEnabled() && !find<QWidget>("Etiket0").isEnabled());
-    QVERIFY(button("ÇıkışButonu").isEnabled() && button("TemizleButonu").isEnabled());
-    QVERIFY(!button("TümündeBulButonu").isEnabled());
+    QCOMPARE(t->Etiket(u"Etiket5"_s),
+             titles.isEmpty() ? u"makale bulunamadı!"_s : u"%1 makale bulundu!"_s.arg(titles.size()));
+    QCOMPARE(t->Metin().Text().isEmpty(), titles.isEmpty());
+    QVERIFY(titles.isEmpty() ? word().hasFocus() : t->Makaleler().hasFocus());
+    QVERIFY(!t->Bul<QWidget>(u"Altlık"_s).isEnabled() && !t->Bul<QWidget>(u"Etiket0"_s).isEnabled());
+    QVERIFY(button(u"ÇıkışButonu"_s).isEnabled() && button(u"TemizleButonu"_s).isEnabled());
+    QVERIFY(!button(u"TümündeBulButonu"_s).isEnabled());
     QVERIFY(!QApplication::overrideCursor());
 }
 
 void TestFinding::resultViewAndBack()
 {
-    word().Text(QStringLiteral("ve"));
-    button("TümündeBulButonu").click();
-    QCOMPARE(articles().Text(), yol("IŞIK"));
+    word().Text(u"ve"_s);
+    button(u"TümündeBulButonu"_s).click();
+    QCOMPARE(t->Makaleler().Text(), u"IŞIK"_s);
     QCOMPARE(marked().size(), 2);
-    QCOMPARE(authors().Text(), yol("ALİ KAYAALP"));
+    QCOMPARE(t->Yazarlar().Text(), u"ALİ KAYAALP"_s);
 
     // The author of a title is looked up by beginning: the shorter name finds itself first.
-    word().Text(QStringLiteral("deniz"));
-    QVERIFY(button("TümündeBulButonu").isEnabled());
-    button("TümündeBulButonu").click();
-    QCOMPARE(authors().Text(), yol("ALİ KAYA"));
-    QCOMPARE(articles().ListCount(), 2); // the author click is inert here
-    articles().ListIndex(1);
-    QCOMPARE(marked(), QStringList{yol(" deniz")});
+    word().Text(u"deniz"_s);
+    QVERIFY(button(u"TümündeBulButonu"_s).isEnabled());
+    button(u"TümündeBulButonu"_s).click();
+    QCOMPARE(t->Yazarlar().Text(), u"ALİ KAYA"_s);
+    QCOMPARE(t->Makaleler().ListCount(), 2); // the author click is inert here
+    t->Makaleler().ListIndex(1);
+    QCOMPARE(marked(), QStringList{u" deniz"_s});
 
     word().Text({}); // emptying by hand is the whole clear action
-    QVERIFY(find<QWidget>("Altlık").isEnabled() && find<QWidget>("YazarBulKutusu").isEnabled());
-    QCOMPARE(authors().ListIndex(), -1);
-    QCOMPARE(articles().ListCount(), 0);
-    QVERIFY(text().Text().isEmpty());
-    QCOMPARE(label("ToplamMakaleSayısıEtiketi"), yol("Toplam: 0"));
-    QCOMPARE(label("Etiket5"), yol("Bulunacak Söz&cük"));
+    QVERIFY(t->Bul<QWidget>(u"Altlık"_s).isEnabled() && t->Bul<QWidget>(u"YazarBulKutusu"_s).isEnabled());
+    QCOMPARE(t->Yazarlar().ListIndex(), -1);
+    QCOMPARE(t->Makaleler().ListCount(), 0);
+    QVERIFY(t->Metin().Text().isEmpty());
+    QCOMPARE(t->Etiket(u"ToplamMakaleSayısıEtiketi"_s), u"Toplam: 0"_s);
+    QCOMPARE(t->Etiket(u"Etiket5"_s), u"Bulunacak Söz&cük"_s);
     QVERIFY(word().hasFocus());
-    authors().ListIndex(0);
-    QCOMPARE(articles().ListCount(), 3);
+    t->Yazarlar().ListIndex(0);
+    QCOMPARE(t->Makaleler().ListCount(), 3);
 }
 
 void TestFinding::oddWords_data()
 {
     QTest::addColumn<QString>("odd");
-    QTest::newRow("apostrophe") << QStringLiteral("o'neil");
-    QTest::newRow("injection") << QStringLiteral("x' OR '1'='1");
+    QTest::newRow("apostrophe") << u"o'neil"_s;
+    QTest::newRow("injection") << u"x' OR '1'='1"_s;
     QTest::newRow("10,000 letters") << QString(10000, u'a');
-    QTest::newRow("lone wildcard") << QStringLiteral("**");
-    QTest::newRow("brackets") << QStringLiteral("[]");
-    QTest::newRow("unclosed") << QStringLiteral("[a-");
-    QTest::newRow("line breaks") << QStringLiteral("a\nb\r\nc");
-    QTest::newRow("NUL") << QStringLiteral("ab") + QChar(u'\0') + u'c';
+    QTest::newRow("lone wildcard") << u"**"_s;
+    QTest::newRow("brackets") << u"[]"_s;
+    QTest::newRow("unclosed") << u"[a-"_s;
+    QTest::newRow("line breaks") << u"a\nb\r\nc"_s;
+    QTest::newRow("NUL") << u"ab"_s + QChar(u'\0') + u'c';
     QTest::newRow("half an emoji") << QString(2, QChar(0xD83D));
 }
 
@@ -356,29 +330,29 @@ void TestFinding::oddWords()
     QFETCH(QString, odd);
     KutuYanıtlayıcı tamam(KutuYanıtlayıcı::Yanıt::Tamam);
     word().Text(odd);
-    button("BulButonu").click();
+    button(u"BulButonu"_s).click();
     const int önceki = tamam.Sayı;
-    button("TümündeBulButonu").click();
+    button(u"TümündeBulButonu"_s).click();
     QCOMPARE(tamam.Sayı, önceki); // no box
     QVERIFY(!QApplication::overrideCursor());
-    button("TemizleButonu").click();
-    QVERIFY(find<QWidget>("Altlık").isEnabled() && button("ÇıkışButonu").isEnabled());
+    button(u"TemizleButonu"_s).click();
+    QVERIFY(t->Bul<QWidget>(u"Altlık"_s).isEnabled() && button(u"ÇıkışButonu"_s).isEnabled());
     QVERIFY(word().Text().isEmpty());
-    authors().ListIndex(0);
-    QCOMPARE(articles().ListCount(), 3);
+    t->Yazarlar().ListIndex(0);
+    QCOMPARE(t->Makaleler().ListCount(), 3);
 }
 
 void TestFinding::stateOfTheWordBox()
 {
     const auto açık = [this] {
-        return QList<bool>{button("BulButonu").isEnabled(), button("TemizleButonu").isEnabled(),
-                           button("TümündeBulButonu").isEnabled()};
+        return QList<bool>{button(u"BulButonu"_s).isEnabled(), button(u"TemizleButonu"_s).isEnabled(),
+                           button(u"TümündeBulButonu"_s).isEnabled()};
     };
     QCOMPARE(açık(), QList<bool>(3, false));
-    Yaz(word(), QStringLiteral("x"));
+    Yaz(word(), u"x"_s);
     QCOMPARE(açık(), QList<bool>(3, true));
-    button("TümündeBulButonu").click(); // too short: nothing happens
-    QVERIFY(find<QWidget>("Altlık").isEnabled());
+    button(u"TümündeBulButonu"_s).click(); // too short: nothing happens
+    QVERIFY(t->Bul<QWidget>(u"Altlık"_s).isEnabled());
     QCOMPARE(açık(), QList<bool>(3, true));
     QTest::keyClick(&word(), Qt::Key_Backspace);
     QCOMPARE(açık(), QList<bool>(3, false));
@@ -389,21 +363,21 @@ void TestFinding::inputDuringSearch()
     Veritabanı->TekİşlemdeYap([] {
         QList<Makale> çok;
         for (int i = 0; i < 3000; ++i)
-            çok.append({QStringLiteral("ÇOK YAZAR"), QStringLiteral("BAŞLIK %1").arg(i), UzunMetin(i, 3000)});
+            çok.append({u"ÇOK YAZAR"_s, u"BAŞLIK %1"_s.arg(i), UzunMetin(i, 3000)});
         Ekle(*Veritabanı, çok);
     });
-    word().Text(QStringLiteral("*q*q*q*q*q*yok")); // slow on purpose
+    word().Text(u"*q*q*q*q*q*yok"_s); // slow on purpose
     int boyama = 0;
     QTimer saat;
     QObject::connect(&saat, &QTimer::timeout, &saat, [&] {
         if (++boyama != 1)
             return;
         QVERIFY(QApplication::overrideCursor());
-        QVERIFY(!button("ÇıkışButonu").isEnabled());
-        form->Kapat(KapanışNedeni::GörevYöneticisi); // the system ends the program in the middle
+        QVERIFY(!button(u"ÇıkışButonu"_s).isEnabled());
+        t->Form->Kapat(KapanışNedeni::GörevYöneticisi); // the system ends the program in the middle
     });
     saat.start(5);
-    button("TümündeBulButonu").click();
+    button(u"TümündeBulButonu"_s).click();
     QVERIFY(boyama >= 1);
     QVERIFY(!Veritabanı);
     QVERIFY(!QApplication::overrideCursor());

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class TestStructure : public QObject
 {
     Q_OBJECT
@@ -25,8 +27,8 @@ private:
     {
         QStringList found;
         for (const QString& folder : folders) {
-            QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + folder,
-                               {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
+            QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + folder, {u"*.h"_s, u"*.cpp"_s},
+                               QDir::Files);
             while (files.hasNext())
                 found.append(files.next());
         }
@@ -37,17 +39,14 @@ private:
 void TestStructure::includesPointDownwards()
 {
     const QHash<QString, QSet<QString>> below = {
-        {QStringLiteral("text"), {}},
-        {QStringLiteral("store"), {QStringLiteral("text")}},
-        {QStringLiteral("app"), {QStringLiteral("text"), QStringLiteral("store")}},
-        {QStringLiteral("controls"),
-         {QStringLiteral("text"), QStringLiteral("store"), QStringLiteral("app")}},
-        {QStringLiteral("forms"),
-         {QStringLiteral("text"), QStringLiteral("store"), QStringLiteral("app"),
-          QStringLiteral("controls")}},
-        {QStringLiteral("tools"), {QStringLiteral("text"), QStringLiteral("store")}},
+        {u"text"_s, {}},
+        {u"store"_s, {u"text"_s}},
+        {u"app"_s, {u"text"_s, u"store"_s}},
+        {u"controls"_s, {u"text"_s, u"store"_s, u"app"_s}},
+        {u"forms"_s, {u"text"_s, u"store"_s, u"app"_s, u"controls"_s}},
+        {u"tools"_s, {u"text"_s, u"store"_s}},
     };
-    static const QRegularExpression include(QStringLiteral("#include [\"<]([^\"/>]+)(/[^\">]*)?[\">]"));
+    static const QRegularExpression include(u"#include [\"<]([^\"/>]+)(/[^\">]*)?[\">]"_s);
     int seen = 0;
     for (auto layer = below.begin(); layer != below.end(); ++layer) {
         for (const QString& path : sources({layer.key()})) {
@@ -57,16 +56,14 @@ void TestStructure::includesPointDownwards()
                 const QString folder = match.captured(1);
                 ++seen;
                 if (match.captured(2).isEmpty()) { // a library's header
-                    const bool windows = folder.startsWith(QStringLiteral("QWidget")) ||
-                                         folder == QStringLiteral("QApplication");
-                    QVERIFY2(!windows || (layer.key() != QStringLiteral("store") &&
-                                          layer.key() != QStringLiteral("text")),
+                    const bool windows = folder.startsWith(u"QWidget"_s) || folder == u"QApplication"_s;
+                    QVERIFY2(!windows || (layer.key() != u"store"_s && layer.key() != u"text"_s),
                              qPrintable(path));
                     continue;
                 }
-                QVERIFY2(folder == layer.key() || layer->contains(folder) ||
-                             folder == QStringLiteral("sys") || folder == QStringLiteral("unicode"),
-                         qPrintable(path + QStringLiteral(" includes ") + match.captured(0)));
+                QVERIFY2(folder == layer.key() || layer->contains(folder) || folder == u"sys"_s ||
+                             folder == u"unicode"_s,
+                         qPrintable(path + u" includes "_s + match.captured(0)));
             }
         }
     }
@@ -75,11 +72,9 @@ void TestStructure::includesPointDownwards()
 
 void TestStructure::mocNamesAreAscii()
 {
-    static const QRegularExpression sınıf(QStringLiteral("class\\s+(\\S+)[^;{]*\\{\\s*Q_OBJECT"));
+    static const QRegularExpression sınıf(u"class\\s+(\\S+)[^;{]*\\{\\s*Q_OBJECT"_s);
     int seen = 0;
-    for (const QString& path :
-         sources({QStringLiteral("app"), QStringLiteral("controls"), QStringLiteral("forms"),
-                  QStringLiteral("program"), QStringLiteral("tests")})) {
+    for (const QString& path : sources({u"app"_s, u"controls"_s, u"forms"_s, u"program"_s, u"tests"_s})) {
         auto matches = sınıf.globalMatch(read(path));
         while (matches.hasNext()) {
             const QString name = matches.next().captured(1);

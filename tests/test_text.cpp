@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class TestText : public QObject
 {
     Q_OBJECT
@@ -21,12 +23,12 @@ private slots:
 
 void TestText::foldingKeepsPositions()
 {
-    const QString metin = QStringLiteral("İSTANBUL IĞDIR i\u0307 ß 😀 ﬁ ΣΑΣ");
+    const QString metin = u"İSTANBUL IĞDIR i\u0307 ß 😀 ﬁ ΣΑΣ"_s;
     const QString katlı = Katla(metin);
     QCOMPARE(katlı.size(), metin.size());
-    QCOMPARE(katlı.indexOf(QStringLiteral("ığdır")), metin.indexOf(QStringLiteral("IĞDIR")));
-    QVERIFY(katlı.startsWith(QStringLiteral("istanbul ")));
-    QVERIFY(katlı.contains(QStringLiteral("😀")));
+    QCOMPARE(katlı.indexOf(u"ığdır"_s), metin.indexOf(u"IĞDIR"_s));
+    QVERIFY(katlı.startsWith(u"istanbul "_s));
+    QVERIFY(katlı.contains(u"😀"_s));
     QCOMPARE(Katla(katlı), katlı);
 }
 
@@ -34,10 +36,10 @@ void TestText::letterCase_data()
 {
     QTest::addColumn<QString>("small");
     QTest::addColumn<QString>("capital");
-    QTest::newRow("dotted") << QStringLiteral("i") << QStringLiteral("İ");
-    QTest::newRow("dotless") << QStringLiteral("ı") << QStringLiteral("I");
-    QTest::newRow("word") << QStringLiteral("şişğıüöç") << QStringLiteral("ŞİŞĞIÜÖÇ");
-    QTest::newRow("no single capital") << QStringLiteral("ß´7") << QStringLiteral("ß´7");
+    QTest::newRow("dotted") << u"i"_s << u"İ"_s;
+    QTest::newRow("dotless") << u"ı"_s << u"I"_s;
+    QTest::newRow("word") << u"şişğıüöç"_s << u"ŞİŞĞIÜÖÇ"_s;
+    QTest::newRow("no single capital") << u"ß´7"_s << u"ß´7"_s;
 }
 
 void TestText::letterCase()
@@ -56,12 +58,12 @@ void TestText::prefix_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("beginning");
     QTest::addColumn<bool>("fits");
-    const QString ali = QStringLiteral("ALİ KAYA");
-    QTest::newRow("other case") << ali << QStringLiteral("ali k") << true;
-    QTest::newRow("dotless is another letter") << ali << QStringLiteral("alı") << false;
-    QTest::newRow("longer than the text") << ali << QStringLiteral("ali kayaalp") << false;
+    const QString ali = u"ALİ KAYA"_s;
+    QTest::newRow("other case") << ali << u"ali k"_s << true;
+    QTest::newRow("dotless is another letter") << ali << u"alı"_s << false;
+    QTest::newRow("longer than the text") << ali << u"ali kayaalp"_s << false;
     QTest::newRow("empty") << ali << QString() << true;
-    QTest::newRow("not at the start") << ali << QStringLiteral("kaya") << false;
+    QTest::newRow("not at the start") << ali << u"kaya"_s << false;
 }
 
 void TestText::prefix()
@@ -79,15 +81,15 @@ void TestText::properCase_data()
     const auto row = [](const char* name, const QString& typed, const QString& proper) {
         QTest::newRow(name) << typed << proper;
     };
-    row("blanks around", QStringLiteral("  istanbul "), QStringLiteral("İstanbul"));
-    row("capitals", QStringLiteral("IĞDIR"), QStringLiteral("Iğdır"));
-    row("two words", QStringLiteral("ankara ili"), QStringLiteral("Ankara İli"));
-    row("month", QStringLiteral("şubat 2003"), QStringLiteral("Şubat 2003"));
-    row("two blanks", QStringLiteral("KASIM  ışık"), QStringLiteral("Kasım  Işık"));
-    row("hyphen starts no word", QStringLiteral("afyon-İZMİR"), QStringLiteral("Afyon-izmir"));
-    row("line break starts one", QStringLiteral("rize\nidil"), QStringLiteral("Rize\nİdil"));
+    row("blanks around", u"  istanbul "_s, u"İstanbul"_s);
+    row("capitals", u"IĞDIR"_s, u"Iğdır"_s);
+    row("two words", u"ankara ili"_s, u"Ankara İli"_s);
+    row("month", u"şubat 2003"_s, u"Şubat 2003"_s);
+    row("two blanks", u"KASIM  ışık"_s, u"Kasım  Işık"_s);
+    row("hyphen starts no word", u"afyon-İZMİR"_s, u"Afyon-izmir"_s);
+    row("line break starts one", u"rize\nidil"_s, u"Rize\nİdil"_s);
     row("empty", QString(), QString());
-    row("blank", QStringLiteral("   "), QString());
+    row("blank", u"   "_s, QString());
 }
 
 void TestText::properCase()
