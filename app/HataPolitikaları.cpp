@@ -43,9 +43,7 @@ void HataBildirVeÇık(const HataBilgisi& hata)
 
 void ProgramıBitir(int durum)
 {
-    Veritabanı.reset();
-    ÇalışmaAlanı.reset();
-    Motor.reset();
+    KitaplığıBırak();
     std::fflush(nullptr);
     std::_Exit(durum);
 }

@@ -13,7 +13,7 @@ struct SürümBilgisi
     quint32 Ana = 0;
     quint32 Alt = 0;
     quint32 Platform = 0; ///< 2 is NT
-    QString ServisPaketi; ///< up to its first NUL
+    QString ServisPaketi; ///< as the system gives it; ends at its first NUL
 };
 
 /// Nothing when the system does not answer.

@@ -1,5 +1,7 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 
+#include "store/MakaleKitaplığı.h"
+
 QString AnaPencereBaşlığı;
 QString AyarUygulamaAdı;
 QString ProgramKlasörü;
@@ -12,6 +14,25 @@ std::optional<Database> Veritabanı;
 QString MakaleYazıTipi;
 qint16 YazıBoyutuSırası = 2;
 qint16 ZeminRengiSırası = 0;
+
+void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir)
+{
+    Motor.emplace(bildir);
+    Motor->SystemDB(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu));
+    ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
+    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, bildir);
+    KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
+    ÇalışmaAlanı->Close();
+    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
+    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
+}
+
+void KitaplığıBırak()
+{
+    Veritabanı.reset();
+    ÇalışmaAlanı.reset();
+    Motor.reset();
+}
 
 QString SürümMetni()
 {

@@ -18,6 +18,13 @@ extern std::optional<DBEngine> Motor;
 extern std::optional<Workspace> ÇalışmaAlanı;
 extern std::optional<Database> Veritabanı;
 
+/// Opens the library in ProgramKlasörü into these three: takes its lock, compacts it, makes sure of the
+/// user account. ÇalışmaAlanı is the owner's until then. Throws what any of the steps throws.
+/// @param bildir called during long work, so that windows can be repainted
+void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir = {});
+/// Lets go of the library and its lock.
+void KitaplığıBırak();
+
 /// How the article text is shown; read when the main window loads, changed by the settings window.
 extern QString MakaleYazıTipi;
 extern qint16 YazıBoyutuSırası; ///< index for YazıBoyutu

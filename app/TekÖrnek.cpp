@@ -1,6 +1,7 @@
 #include "app/TekÖrnek.h"
 
 #include <QCryptographicHash>
+#include <QFile>
 #include <QLocalSocket>
 #include <QStandardPaths>
 
@@ -23,15 +24,27 @@ QString soketYolu(const QString& başlık)
 TekÖrnek::TekÖrnek(const QString& başlık) : yol_(soketYolu(başlık)), kilit_(yol_ + QStringLiteral(".lock"))
 {
     kilit_.setStaleLockTime(0); // only the owner's death makes it void, not its age
-    if (kilit_.tryLock(0))
+    if (kilitle())
         dinle();
     else
         başkasıVar_ = kilit_.error() == QLockFile::LockFailedError;
-    if (başkasıVar_)
-        çağır();
 }
 
 TekÖrnek::~TekÖrnek() = default;
+
+bool TekÖrnek::kilitle()
+{
+    if (kilit_.tryLock(0))
+        return true;
+    if (kilit_.error() != QLockFile::LockFailedError || çağır())
+        return false;
+    // Nobody answers, and a lock that names no owner (a crash came between making and writing it) would
+    // never count as void.
+    qint64 süreç = 0;
+    QString makine, ad;
+    return !kilit_.getLockInfo(&süreç, &makine, &ad) && QFile::remove(yol_ + QStringLiteral(".lock")) &&
+           kilit_.tryLock(0);
+}
 
 void TekÖrnek::dinle()
 {

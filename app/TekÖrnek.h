@@ -24,6 +24,7 @@ public:
     std::function<void()> ÖneÇağrıldı;
 
 private:
+    bool kilitle();
     void dinle();
     bool çağır() const;
 

@@ -42,37 +42,18 @@ void Sağla(bool doğru, const char* beklenen)
         throw std::runtime_error(std::string("expected ") + beklenen);
 }
 
-void KitaplığıAç()
-{
-    Motor.emplace(&PencereleriBoya);
-    Motor->SystemDB(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu));
-    ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
-    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, &PencereleriBoya);
-    KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
-    ÇalışmaAlanı->Close();
-    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
-    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
-}
-
-void KitaplığıKapat()
-{
-    Veritabanı.reset();
-    ÇalışmaAlanı.reset();
-    Motor.reset();
-}
-
 void AçılışıÖlç(const KapalıOrtam& ortam)
 {
     const bool büyük = ortam.Kitaplık.MakaleSayısı() >= AmaçlıMakaleSayısı;
     const QString kopya = ProgramKlasörü + QStringLiteral("karşılaştırma");
-    Ölçüm ölçüm{QStringLiteral("Sıkıştırarak açma"), &KitaplığıAç,
+    Ölçüm ölçüm{QStringLiteral("Sıkıştırarak açma"), [] { KitaplığıAç(); },
                 QStringLiteral("dosyayı kopyalayıp diske yazma"),
                 [&kopya] { kopyala(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::Veritabanı), kopya); }, 5};
     if (büyük)
         ölçüm.Hedef = Amaç{Amaç::Tür::Oran, OranAmacı};
-    ölçüm.İşHazırlığı = &KitaplığıKapat;
+    ölçüm.İşHazırlığı = &KitaplığıBırak;
     ölçüm.TabanHazırlığı = [&kopya] { QFile::remove(kopya); };
     ortam.Çizelge.Satır(ölçüm);
-    KitaplığıKapat();
+    KitaplığıBırak();
     QFile::remove(kopya);
 }

@@ -3,7 +3,6 @@
 
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "forms/AnaForm.h"
-#include "store/VeritabanıHatası.h"
 
 #include <QApplication>
 #include <QDir>
@@ -17,8 +16,9 @@
 namespace {
 
 constexpr std::array KapalıÖlçümler = {&AçılışıÖlç};
-constexpr std::array PencereÖlçümleri = {&YazarListesiniÖlç, &YazarTıklamasınıÖlç, &BaşlıkTıklamasınıÖlç};
-constexpr std::array UzunMetinÖlçümleri = {&UzunMakaleyiÖlç, &BaşlıkTıklamasınıÖlç};
+constexpr std::array PencereÖlçümleri = {&YazarListesiniÖlç, &YazarTıklamasınıÖlç, &BaşlıkTıklamasınıÖlç,
+                                         &ÖnekBulmayıÖlç, &TümündeBulmayıÖlç};
+constexpr std::array UzunMetinÖlçümleri = {&UzunMakaleyiÖlç, &BaşlıkTıklamasınıÖlç, &İşaretlemeyiÖlç};
 
 const QList<int> Boylar = {1'000, 10'000, 100'000};
 const QList<int> KısaBoylar = {1'000, 10'000};
@@ -35,7 +35,7 @@ void penceredeÖlç(const ÖrnekKitaplık& kitaplık, Tablo& tablo, const Ölç�
         for (const auto ölç : ölçümler)
             ölç({kitaplık, tablo, pencere});
     }
-    KitaplığıKapat();
+    KitaplığıBırak();
 }
 
 /// The offscreen platform complains about what it can't do with each window.

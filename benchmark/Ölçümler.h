@@ -28,12 +28,11 @@ void AçılışıÖlç(const KapalıOrtam& ortam);
 void YazarListesiniÖlç(const PencereOrtamı& ortam);
 void YazarTıklamasınıÖlç(const PencereOrtamı& ortam);
 void BaşlıkTıklamasınıÖlç(const PencereOrtamı& ortam);
+void TümündeBulmayıÖlç(const PencereOrtamı& ortam);
+void ÖnekBulmayıÖlç(const PencereOrtamı& ortam);
 /// For libraries with long articles.
 void UzunMakaleyiÖlç(const PencereOrtamı& ortam);
-
-/// The start-up's steps with the library in ProgramKlasörü, into the shared variables; and their end.
-void KitaplığıAç();
-void KitaplığıKapat();
+void İşaretlemeyiÖlç(const PencereOrtamı& ortam);
 
 /// Throws when a measurement did not do what it is named after.
 void Sağla(bool doğru, const char* beklenen);

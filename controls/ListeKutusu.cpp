@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QToolTip>
 
 namespace {
@@ -117,8 +118,9 @@ void ListeKutusu::Clear()
 int ListeKutusu::ÖnekleBul(QStringView baş) const
 {
     const QStringList& metinler = model_->metinler();
+    const QString aranan = baş.toString().normalized(QString::NormalizationForm_C);
     const auto yer = std::find_if(metinler.begin(), metinler.end(),
-                                  [baş](const QString& metin) { return İleBaşlar(metin, baş); });
+                                  [&aranan](const QString& metin) { return İleBaşlar(metin, aranan); });
     return yer == metinler.end() ? -1 : static_cast<int>(yer - metinler.begin());
 }
 
@@ -144,10 +146,13 @@ void ListeKutusu::currentChanged(const QModelIndex& şimdiki, const QModelIndex&
 void ListeKutusu::mousePressEvent(QMouseEvent* olay)
 {
     const int önceki = ListIndex();
-    const bool yine = olay->button() == Qt::LeftButton && önceki >= 0 &&
-                      indexAt(olay->position().toPoint()).row() == önceki;
-    QListView::mousePressEvent(olay);
-    if (yine && Click)
+    const bool yine = olay->button() == Qt::LeftButton && indexAt(olay->position().toPoint()).row() == önceki;
+    {
+        const QScopedValueRollback sessiz(sessiz_, true);
+        QListView::mousePressEvent(olay);
+    }
+    // Only now, since the handler may let messages through: the view is done with this press.
+    if (ListIndex() >= 0 && (ListIndex() != önceki || yine) && Click)
         Click();
 }
 
@@ -156,6 +161,16 @@ void ListeKutusu::focusInEvent(QFocusEvent* olay)
 {
     QAbstractScrollArea::focusInEvent(olay);
     viewport()->update();
+}
+
+// Nothing takes the selection away from the current entry.
+QItemSelectionModel::SelectionFlags ListeKutusu::selectionCommand(const QModelIndex& yer,
+                                                                  const QEvent* olay) const
+{
+    const auto komut = QListView::selectionCommand(yer, olay);
+    return komut & (QItemSelectionModel::Deselect | QItemSelectionModel::Toggle)
+               ? QItemSelectionModel::ClearAndSelect
+               : komut;
 }
 
 bool ListeKutusu::viewportEvent(QEvent* olay)

@@ -47,6 +47,8 @@ protected:
     void mousePressEvent(QMouseEvent* olay) override;
     void focusInEvent(QFocusEvent* olay) override;
     bool viewportEvent(QEvent* olay) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& yer,
+                                                         const QEvent* olay) const override;
 
 private:
     class Model;

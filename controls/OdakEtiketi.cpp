@@ -16,7 +16,8 @@ bool OdakEtiketi::eventFilter(QObject* nesne, QEvent* olay)
             odakGeldi(*static_cast<QWidget*>(nesne));
     } else if (olay->type() == QEvent::FocusOut && nesne == odaklı_) {
         const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
-        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason)
+        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason &&
+            neden != Qt::MenuBarFocusReason)
             odakGitti();
     }
     return false;

@@ -38,6 +38,11 @@ protected:
     void keyPressEvent(QKeyEvent* olay) override
     {
         const QString yazılan = olay->text();
+        const auto ekTuşlar = olay->modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+        if (ekTuşlar == Qt::AltModifier && !yazılan.isEmpty() && yazılan[0].isPrint()) {
+            olay->ignore(); // a mnemonic that nothing took types nothing
+            return;
+        }
         const bool karakter =
             !yazılan.isEmpty() &&
             (yazılan[0].isPrint() || yazılan[0] == QChar(TuşKodları::Enter) || yazılan[0].isSurrogate());

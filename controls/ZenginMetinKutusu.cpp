@@ -62,7 +62,10 @@ void ZenginMetinKutusu::İşaretle(const QList<qsizetype>& yerler, qsizetype uzu
     imleç.endEditBlock();
 
     // The caret ends at the last one; the reader begins at the first.
+    const int önce = verticalScrollBar()->value();
     imleciKoy(static_cast<int>(yerler.first()));
+    if (verticalScrollBar()->value() != önce) // it came in at the edge
+        centerCursor();
     SelStart(static_cast<int>(yerler.last()));
 }
 

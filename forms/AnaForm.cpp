@@ -152,10 +152,14 @@ void AnaForm::olaylarıBağla()
 void AnaForm::Göster(const std::function<void()>& yüklendi)
 {
     Form_Load();
+    if (bitti_) // the system ended the program meanwhile
+        return;
     const QPoint yer = pos();
     const bool olağan = !isMaximized();
     show();
     QCoreApplication::processEvents();
+    if (bitti_)
+        return;
     if (olağan) // a position given before the window has its frame is off by the frame
         move(yer);
     if (yüklendi)
@@ -323,8 +327,11 @@ void AnaForm::MakaleListesi_Click()
             sözcüğüİşaretle();
         }
     });
-    if (!tamam)
-        MakaleMetniKutusu.Text({});
+    if (tamam)
+        return;
+    MakaleMetniKutusu.Text({});
+    if (sonuçGörünümü())
+        YazarListesi.ListIndex(-1);
 }
 
 void AnaForm::makaleyiGöster(const QString& metin)
@@ -341,4 +348,9 @@ void AnaForm::ÖneGetir()
     show();
     raise();
     activateWindow();
+    if (QWidget* kutu = QApplication::activeModalWidget()) { // it is the box that waits for the user
+        kutu->setWindowState(kutu->windowState() & ~Qt::WindowMinimized);
+        kutu->raise();
+        kutu->activateWindow();
+    }
 }

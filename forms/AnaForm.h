@@ -51,6 +51,9 @@ public:
     /// @param yüklendi called once the window stands
     void Göster(const std::function<void()>& yüklendi = {});
 
+    /// Whether the exit sequence has run; the event loop need not be entered then.
+    bool Bitti() const { return bitti_; }
+
     /// Refills the author list from the library; an empty table leaves the list as it is.
     void YazarListesiYükle();
 
@@ -115,6 +118,7 @@ private:
     /// Marks the word wherever it stands between two blanks. @return whether it was found
     bool sözcüğüİşaretle();
     void yazarıGöster(const QString& yazar);
+    void bulmaEtiketi(const QString& yazı);
     void bulmaDüğmeleri(bool açık);
     void yazarTarafı(bool açık);
 
@@ -156,9 +160,8 @@ private:
     QAction MenüÇizgisi2{this}, MenüÇizgisi3{this};
 
     OdakEtiketi odakEtiketi_;
-    QString sonuçYazarı_; // author of the shown article in the result view
-    int doldurma_ = 0;    // number of the newest filling of the article list; an older one stops
-    KapanışNedeni kapanışNedeni_ = KapanışNedeni::Kullanıcı;
+    QString sonuçYazarı_;    // author of the shown article in the result view
+    int doldurma_ = 0;       // number of the newest filling of the article list; an older one stops
     bool soruluyor_ = false; // the exit question stands on the screen
     bool bitti_ = false;     // the exit sequence has run
     QSize yerleşen_;         // outer size in twips that the controls were last laid out for

@@ -124,7 +124,8 @@ bool AnaForm::sözcüğüİşaretle()
 {
     if (!sözcükYeterli())
         return false;
-    const QString sözcük = BulKutusu.Text();
+    // The library's texts are in normal form C; a pasted word need not be.
+    const QString sözcük = BulKutusu.Text().normalized(QString::NormalizationForm_C);
     const QList<qsizetype> yerler = TümYerler(MakaleMetniKutusu.Text(), u' ' + sözcük + u' ');
     MakaleMetniKutusu.İşaretle(yerler, sözcük.size() + 1); // the blank before it, but not the one behind
     return !yerler.isEmpty();
@@ -133,6 +134,7 @@ bool AnaForm::sözcüğüİşaretle()
 void AnaForm::TemizleButonu_Click()
 {
     if (sonuçGörünümü()) {
+        ++doldurma_;
         yazarTarafı(true);
         YazarListesi.ListIndex(-1);
         MakaleListesi.Clear();
@@ -140,7 +142,7 @@ void AnaForm::TemizleButonu_Click()
     }
     ÇıkışButonu.setEnabled(true); // a search that failed has left it disabled
     bulmaDüğmeleri(false);
-    Etiket[5].setText(Metin(175));
+    bulmaEtiketi(Metin(175));
     MakaleListesi_Click();
     BulKutusu.Text({}); // fires its Change, which clears once more and finds nothing left to do
     BulKutusu.setFocus();
@@ -156,6 +158,7 @@ void AnaForm::TümündeBulButonu_Click()
 
 void AnaForm::tümündeBul()
 {
+    ++doldurma_; // a filling under way must not go on among the results
     for (QWidget* kontrol : std::initializer_list<QWidget*>{&ÇıkışButonu, &BulButonu, &TümündeBulButonu})
         kontrol->setEnabled(false);
     yazarTarafı(false);
@@ -183,7 +186,7 @@ void AnaForm::tümündeBul()
 void AnaForm::sonuçYok()
 {
     makaleleriBoşalt();
-    Etiket[5].setText(Metin(220));
+    bulmaEtiketi(Metin(220));
     BulKutusu.setFocus();
 }
 
@@ -194,10 +197,21 @@ void AnaForm::sonuçlarıGöster(Recordset& kayıtlar)
         başlıklar.append(kayıtlar.Fields(u"MakaleBasligi").Value());
     MakaleListesi.Clear();
     MakaleListesi.AddItems(başlıklar);
-    Etiket[5].setText(QString::number(MakaleListesi.ListCount()) + u' ' + Metin(215));
+    bulmaEtiketi(QString::number(MakaleListesi.ListCount()) + u' ' + Metin(215));
     makaleToplamınıYaz();
     MakaleListesi.setFocus();
     MakaleListesi.ListIndex(0);
+}
+
+// A large count is wider than the label's place: its letters move together then.
+void AnaForm::bulmaEtiketi(const QString& yazı)
+{
+    QFont yazıTipi = yüzey_->font();
+    const int genişlik = QFontMetrics(yazıTipi).horizontalAdvance(yazı);
+    if (genişlik > Etiket[5].width())
+        yazıTipi.setStretch(100 * Etiket[5].width() / genişlik);
+    Etiket[5].setFont(yazıTipi);
+    Etiket[5].setText(yazı);
 }
 
 // The first author that begins with the name: it may be a longer one.

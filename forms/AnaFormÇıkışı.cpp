@@ -18,18 +18,18 @@ void AnaForm::ÇıkışButonu_Click()
     Kapat(KapanışNedeni::Program);
 }
 
+// Asks before the toolkit's own closing begins, which would let a second request past the question.
 bool AnaForm::Kapat(KapanışNedeni neden)
 {
-    if (soruluyor_) // the window is closing already; the toolkit would pass over a second close
-        return Form_QueryUnload(neden);
-    kapanışNedeni_ = neden;
-    const auto geri = qScopeGuard([this] { kapanışNedeni_ = KapanışNedeni::Kullanıcı; });
-    return close();
+    if (!Form_QueryUnload(neden))
+        return false;
+    close();
+    return true;
 }
 
 void AnaForm::closeEvent(QCloseEvent* olay)
 {
-    olay->setAccepted(Form_QueryUnload(kapanışNedeni_));
+    olay->setAccepted(Form_QueryUnload(KapanışNedeni::Kullanıcı));
 }
 
 bool AnaForm::Form_QueryUnload(KapanışNedeni neden)

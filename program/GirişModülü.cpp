@@ -1,5 +1,6 @@
 #include "program/GirişModülü.h"
 
+#include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/KapatmaSinyalleri.h"
 #include "app/Metinler.h"
@@ -17,6 +18,8 @@
 #include <QLocale>
 #include <QSessionManager>
 #include <QTranslator>
+
+#include <optional>
 
 namespace {
 
@@ -47,21 +50,12 @@ void sürümüDenetle()
         reddet(30);
 }
 
-void veritabanınıAç()
+void dosyalarıDenetle()
 {
-    const QString grup = KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu);
     if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::Veritabanı)))
         reddet(40);
-    if (!DosyaVar(grup))
+    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu)))
         reddet(45);
-    Motor.emplace(&PencereleriBoya);
-    Motor->SystemDB(grup);
-    ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
-    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, &PencereleriBoya);
-    KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
-    ÇalışmaAlanı->Close();
-    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
-    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
 }
 
 /// The session's end asks like the user's own wish to close; a No stops it.
@@ -78,13 +72,21 @@ void oturumSonunuBağla(QApplication& uygulama, AnaForm& form)
 
 int SubMain(QApplication& uygulama)
 {
-    return HatadaBildirVeÇık([&uygulama] {
+    std::optional<TekÖrnek> tekÖrnek; // outlives an error report, which a second start brings forward
+    return HatadaBildirVeÇık([&uygulama, &tekÖrnek] {
         diliKur(uygulama);
+        uygulama.setFont(FormYazıTipi());
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
         AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - ") + Metin(5) + u' ' + SürümMetni();
-        TekÖrnek tekÖrnek(AnaPencereBaşlığı);
-        if (tekÖrnek.BaşkasıVar())
+        tekÖrnek.emplace(AnaPencereBaşlığı);
+        if (tekÖrnek->BaşkasıVar())
             return 0;
+        tekÖrnek->ÖneÇağrıldı = [] {
+            if (QWidget* kutu = QApplication::activeModalWidget()) {
+                kutu->raise();
+                kutu->activateWindow();
+            }
+        };
         AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(5);
         ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
         uygulama.setWindowIcon(QIcon(QStringLiteral(":/belgenar/simgeler/belgenar.png")));
@@ -93,13 +95,14 @@ int SubMain(QApplication& uygulama)
         karşılama.show();
         PencereleriBoya();
         sürümüDenetle();
-        veritabanınıAç();
+        dosyalarıDenetle();
+        KitaplığıAç(&PencereleriBoya);
 
         AnaForm form;
-        tekÖrnek.ÖneÇağrıldı = [&form] { form.ÖneGetir(); };
+        tekÖrnek->ÖneÇağrıldı = [&form] { form.ÖneGetir(); };
         const KapatmaSinyalleri sinyaller([&form] { form.Kapat(KapanışNedeni::GörevYöneticisi); });
         oturumSonunuBağla(uygulama, form);
         form.Göster([&karşılama] { karşılama.close(); });
-        return QApplication::exec();
+        return form.Bitti() ? 0 : QApplication::exec();
     });
 }

@@ -2,8 +2,12 @@
 
 #include <QApplication>
 
+#include <csignal>
+
 int main(int argc, char** argv)
 {
+    std::signal(SIGPIPE, SIG_IGN); // the log's reader may go away
+
     QApplication uygulama(argc, argv);
     return SubMain(uygulama);
 }

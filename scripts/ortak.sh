@@ -1,10 +1,12 @@
 # Shared by ./run, ./test and ./bench: packages, building, a virtual display. Sourced by bash, from the
 # checkout's folder.
 
+export LC_ALL=C.UTF-8 # window captions and file names are not ASCII; always there on Debian
+
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlcipher-dev libicu-dev"
-RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation"
+RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation x11-utils"
 VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
-TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES wmctrl xclip"
+TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES"
 
 die() {
     echo "$*" >&2
@@ -32,12 +34,13 @@ need_packages() {
         || die "Paketler kurulamadı:$missing"
 }
 
-# Configures once and builds a preset; quiet unless something fails or takes long.
+# Configures once and builds a preset; quiet unless something fails.
 build() {
     local preset=$1 log
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build.$preset.log" 2>&1 \
-        || { cat "build.$preset.log"; rm -f "build.$preset.log"; die "Yapılandırma başarısız: $preset"; }
-    rm -f "build.$preset.log"
+    # A build folder that was moved or copied with its checkout still names the old place.
+    grep -qsx "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$preset/CMakeCache.txt" || rm -rf "build/$preset"
+    [ -f "build/$preset/build.ninja" ] || log=$(cmake --preset "$preset" 2>&1) \
+        || { echo "$log"; die "Yapılandırma başarısız: $preset"; }
     log=$(cmake --build --preset "$preset" 2>&1) || { echo "$log" | tail -n 60; die "Derleme başarısız: $preset"; }
 }
 

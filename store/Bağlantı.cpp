@@ -71,12 +71,11 @@ QByteArray anahtarMetni(const Anahtar& anahtar)
                                                   : anahtar.değer;
 }
 
-HataNo açmaHatası(const QString& yol)
+HataNo açmaHatası(const QFileInfo& bilgi, AçmaKipi kip)
 {
-    const QFileInfo bilgi(yol);
-    if (!bilgi.exists())
-        return errno == EACCES ? HataNo::İzinYok : HataNo::DosyaYok;
-    return HataNo::İzinYok;
+    if (kip != AçmaKipi::Oluştur)
+        return HataNo::İzinYok;
+    return QFileInfo::exists(bilgi.absolutePath()) ? HataNo::SaltOkunur : HataNo::DosyaYok;
 }
 
 } // namespace
@@ -120,7 +119,7 @@ Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip
     const int durum = sqlite3_open_v2(QFile::encodeName(yol).constData(), &db, bayraklar, nullptr);
     db_.reset(db);
     if (durum == SQLITE_CANTOPEN)
-        throw VeritabanıHatası(açmaHatası(yol), yol);
+        throw VeritabanıHatası(açmaHatası(bilgi, kip), yol);
     denetle(durum);
     sqlite3_extended_result_codes(db, 1);
     sqlite3_busy_timeout(db, KilitBekleme);
@@ -164,7 +163,8 @@ void Bağlantı::anahtarıVer(const Anahtar& anahtar)
     if (değer.isEmpty()) // would be taken for a file in the clear
         throw VeritabanıHatası(HataNo::ParolaYanlış, yol_);
     denetle(sqlite3_key(db_.get(), değer.constData(), static_cast<int>(değer.size())));
-    if (Metin("PRAGMA cipher_version").startsWith(u'4')) // the files are version 3's
+    sürüm4_ = Metin("PRAGMA cipher_version").startsWith(u'4');
+    if (sürüm4_) // the files are version 3's
         Sayı("PRAGMA cipher_compatibility=3");
     Sayı("PRAGMA cipher_page_size=" + QByteArray::number(SayfaBoyu));
     // Sorted texts must not go to a temporary file in the clear.
@@ -193,12 +193,16 @@ void Bağlantı::hataVer(int durum, bool adımda) const
     case SQLITE_TOOBIG:
         throw VeritabanıHatası(HataNo::DeğerÇokUzun, yol_);
     case SQLITE_NOMEM:
+        if (adımda && sürüm4_) // what version 4 says of a page that does not decipher
+            throw VeritabanıHatası(HataNo::DosyaBozuk, yol_);
         throw std::bad_alloc();
     case SQLITE_INTERRUPT:
         throw VeritabanıHatası(HataNo::İşlemDurduruldu);
     case SQLITE_IOERR:
         if (durum == SQLITE_IOERR_SHORT_READ)
             throw VeritabanıHatası(HataNo::DosyaYarım, yol_);
+        if (const int sistem = sqlite3_system_errno(db_.get()); sistem == EDQUOT || sistem == ENOSPC)
+            throw VeritabanıHatası(HataNo::DiskDolu, yol_);
         throw VeritabanıHatası(HataNo::DiskHatası, yol_);
     default:
         break;
@@ -242,6 +246,8 @@ void Bağlantı::İliştir(const QString& yol, const Anahtar& anahtar, const QBy
     deyim.Bağla(1, yol);
     deyim.Bağla(2, QString::fromUtf8(anahtarMetni(anahtar)));
     deyim.Çalıştır();
+    if (sürüm4_)
+        Sayı("PRAGMA " + ad + ".cipher_compatibility=3");
     Sayı("PRAGMA " + ad + ".cipher_page_size=" + QByteArray::number(SayfaBoyu));
 }
 

@@ -90,6 +90,7 @@ private:
     QString yol_;
     std::unique_ptr<sqlite3, Kapatıcı> db_;
     std::function<bool()> sürsünMü_;
+    bool sürüm4_ = false;    // of SQLCipher
     qint64 sonBildirim_ = 0; // ms of the steady clock
 };
 

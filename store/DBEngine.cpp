@@ -48,20 +48,31 @@ void DBEngine::CompactDatabase(const QString& kaynak, const QString& hedef, cons
     // library is replaced.
     ÇalışmaGrubu grup(grupYolu_, AçmaKipi::OkuYaz);
     GeçiciDosya kopya(hedef);
+    const auto dene = [&](DizinKaynağı dizinler) { kopyalaVeDoğrula(kaynak, hedef, parola, grup, dizinler); };
+    try {
+        dene(DizinKaynağı::Dizinler);
+    } catch (const VeritabanıHatası& hata) {
+        if (hata.Numara() != HataNo::DosyaBozuk)
+            throw;
+        dene(DizinKaynağı::Satırlar); // if only an index is damaged, no article is lost
+    }
+    DiskeYaz(hedef);
+    kopya.Kalsın();
+}
+
+void DBEngine::kopyalaVeDoğrula(const QString& kaynak, const QString& hedef, const QString& parola,
+                                ÇalışmaGrubu& grup, DizinKaynağı dizinler) const
+{
     qint64 satırlar = 0;
     {
         const auto bağlantı = KitaplıkBağlantısı(kaynak, parola, AçmaKipi::OkuYaz, grup);
         bağlantı->İlerlemeAta(bildir_);
-        satırlar = KitaplığıKopyala(*bağlantı, hedef, parola);
+        satırlar = KitaplığıKopyala(*bağlantı, hedef, parola, dizinler);
     }
     if (DüzMetinVeritabanı(hedef))
         throw VeritabanıHatası(HataNo::İzinYok, hedef);
-    {
-        const auto bağlantı = KitaplıkBağlantısı(hedef, parola, AçmaKipi::Oku, grup);
-        bağlantı->İlerlemeAta(bildir_);
-        if (TümSatırlarıOku(*bağlantı) != satırlar)
-            throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak);
-    }
-    DiskeYaz(hedef);
-    kopya.Kalsın();
+    const auto bağlantı = KitaplıkBağlantısı(hedef, parola, AçmaKipi::Oku, grup);
+    bağlantı->İlerlemeAta(bildir_);
+    if (TümSatırlarıOku(*bağlantı) != satırlar)
+        throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak);
 }

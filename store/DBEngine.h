@@ -11,6 +11,9 @@
 #include <memory>
 #include <optional>
 
+class ÇalışmaGrubu;
+enum class DizinKaynağı;
+
 /// What CompactDatabase may be asked for; the copy is always encrypted, so that is the only choice.
 constexpr int dbEncrypt = 2;
 
@@ -46,6 +49,9 @@ public:
                          int seçenekler, const QString& kaynakYereli);
 
 private:
+    void kopyalaVeDoğrula(const QString& kaynak, const QString& hedef, const QString& parola,
+                          ÇalışmaGrubu& grup, DizinKaynağı dizinler) const;
+
     İlerlemeBildirimi bildir_;
     QString grupYolu_;
     std::optional<KlasörKilidi> kilit_;

@@ -2,6 +2,14 @@
 
 #include "store/Bağlantı.h"
 
+namespace {
+
+// As SQLite counts: KiB below zero. A connection that was given another size keeps it.
+constexpr int OlağanÖnbellek = -2000;
+constexpr int GenişÖnbellek = -16000;
+
+} // namespace
+
 Recordset Database::OpenRecordset(const QString& sql) const
 {
     if (!bağlantı_)
@@ -21,6 +29,9 @@ void Database::TekİşlemdeYap(const std::function<void()>& iş) const
     if (!bağlantı_)
         throw VeritabanıHatası(HataNo::NesneKapalı);
     try {
+        // Bulk work touches every page of the indices again and again.
+        if (bağlantı_->Sayı("PRAGMA cache_size") == OlağanÖnbellek)
+            bağlantı_->Çalıştır("PRAGMA cache_size=" + QByteArray::number(GenişÖnbellek));
         İşlem işlem(*bağlantı_);
         iş();
         işlem.Onayla();

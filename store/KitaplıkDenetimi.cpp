@@ -20,8 +20,7 @@ constexpr qsizetype EnUzunAd = 80; // characters of a title that names one
 const QString GünlükEki = QStringLiteral("-journal");
 
 const QString FazlaBaytMetni = QStringLiteral("Dosyanın sonunda kitaplığa ait olmayan baytlar var.");
-const QString DizinMetni =
-    QStringLiteral("Bir dizin tabloyla uyuşmuyor; program dizinleri bir sonraki açılışta yeniden kurar.");
+const QString DizinMetni = QStringLiteral("Bir dizin tabloyla uyuşmuyor; makaleler duruyor.");
 const QString YarımMetni = QStringLiteral(
     "%1 dosyasında yarım kalmış bir yazma var; dosya bir sonraki açılışta ondan önceki durumuna döner.");
 const QString KesmeMetni = QStringLiteral("%1 makalenin yazar adında ya da başlığında kesme işareti (') var; "

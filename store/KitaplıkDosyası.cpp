@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::size_t BlokBoyu = 1 << 20;
+constexpr std::size_t BlokBoyu = 4 << 20;
 
 [[noreturn]] void sistemHatası(int hata, const QString& yol)
 {
@@ -50,7 +50,37 @@ public:
     Tanıtıcı(const Tanıtıcı&) = delete;
     Tanıtıcı& operator=(const Tanıtıcı&) = delete;
 
-    std::size_t Oku(char* baytlar, std::size_t boy) const
+    /// Appends the next bytes of another file. @return false at its end
+    bool Aktar(const Tanıtıcı& diğer, std::size_t enÇok) const
+    {
+        // Within the system, without a detour through this process, where it can do that.
+        const ssize_t aktarılan = copy_file_range(diğer.no_, nullptr, no_, nullptr, enÇok, 0);
+        if (aktarılan > 0)
+            return true;
+        if (aktarılan < 0 && errno != EXDEV && errno != ENOSYS && errno != EINVAL && errno != EOPNOTSUPP)
+            sistemHatası(errno, yol_);
+        // Some file systems also say 0 too early, so the end is what read calls the end.
+        std::vector<char> blok(enÇok);
+        const std::size_t boy = diğer.oku(blok.data(), blok.size());
+        yaz(blok.data(), boy);
+        return boy > 0;
+    }
+    void DiskeYaz() const
+    {
+        if (fsync(no_) != 0)
+            sistemHatası(errno, yol_);
+    }
+    /// Owner (where this process may give files away) and access rights of another file.
+    void HaklarıVer(const struct stat& diğer) const
+    {
+        if (geteuid() == 0 && fchown(no_, diğer.st_uid, diğer.st_gid) != 0)
+            sistemHatası(errno, yol_);
+        if (fchmod(no_, diğer.st_mode & 07777) != 0)
+            sistemHatası(errno, yol_);
+    }
+
+private:
+    std::size_t oku(char* baytlar, std::size_t boy) const
     {
         ssize_t okunan = 0;
         do
@@ -60,7 +90,7 @@ public:
             sistemHatası(errno, yol_);
         return static_cast<std::size_t>(okunan);
     }
-    void Yaz(const char* baytlar, std::size_t boy) const
+    void yaz(const char* baytlar, std::size_t boy) const
     {
         while (boy > 0) {
             const ssize_t yazılan = write(no_, baytlar, boy);
@@ -72,18 +102,7 @@ public:
             boy -= static_cast<std::size_t>(yazılan);
         }
     }
-    void DiskeYaz() const
-    {
-        if (fsync(no_) != 0)
-            sistemHatası(errno, yol_);
-    }
-    void İzinVer(mode_t izin) const
-    {
-        if (fchmod(no_, izin) != 0)
-            sistemHatası(errno, yol_);
-    }
 
-private:
     QString yol_;
     int no_;
 };
@@ -91,6 +110,26 @@ private:
 void klasörüDiskeYaz(const QString& yol)
 {
     Tanıtıcı(QFileInfo(yol).absolutePath(), O_RDONLY | O_DIRECTORY).DiskeYaz();
+}
+
+void kopyasınıYerineKoy(const QString& yeni, const QString& hedef, const struct stat& eski,
+                        const std::function<void()>& bildir)
+{
+    const QString ara = hedef + u'~';
+    DosyayıSil(ara);
+    GeçiciDosya geçici(ara);
+    {
+        const Tanıtıcı okunan(yeni, O_RDONLY);
+        const Tanıtıcı yazılan(ara, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+        while (yazılan.Aktar(okunan, BlokBoyu)) {
+            if (bildir)
+                bildir();
+        }
+        yazılan.HaklarıVer(eski);
+        yazılan.DiskeYaz();
+    }
+    DosyayıTaşı(ara, hedef);
+    geçici.Kalsın();
 }
 
 Anahtar parolaAnahtarı(const QString& parola)
@@ -134,22 +173,29 @@ std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QSt
     }
 }
 
-qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola)
+qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler)
 {
     // ATTACH makes no new file for a connection that was not opened to make one.
-    Tanıtıcı(hedef, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    Tanıtıcı(hedef, O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
     kaynak.İliştir(hedef, parolaAnahtarı(parola), "kopya");
     // A throw-away file until it is whole: it needs no journal of its own.
     kaynak.Sayı("PRAGMA kopya.journal_mode=OFF");
     kaynak.Çalıştır("PRAGMA kopya.synchronous=OFF");
+    const auto dizinleriKur = [&kaynak] {
+        for (const QByteArray& sql : DizinSql("kopya"))
+            kaynak.Çalıştır(sql);
+    };
     qint64 satırlar = 0;
     {
         İşlem işlem(kaynak);
         kaynak.Çalıştır(TabloSql("kopya"));
+        // With the indices there, this one statement copies their entries, too.
+        if (dizinler == DizinKaynağı::Dizinler)
+            dizinleriKur();
         kaynak.Çalıştır("INSERT INTO kopya.Makaleler SELECT * FROM main.Makaleler");
         satırlar = kaynak.DeğişenSatır();
-        for (const QByteArray& sql : DizinSql("kopya"))
-            kaynak.Çalıştır(sql);
+        if (dizinler == DizinKaynağı::Satırlar)
+            dizinleriKur();
         kaynak.Çalıştır("PRAGMA kopya.user_version=" + QByteArray::number(KitaplıkSürümü));
         işlem.Onayla();
     }
@@ -166,6 +212,10 @@ qint64 TümSatırlarıOku(Bağlantı& kitaplık)
         for (int sütun = 0; sütun < int(MakaleSütunları.size()); ++sütun)
             deyim.Yazı(sütun);
     }
+    for (const char* dizin : DizinAdları) {
+        if (kitaplık.Sayı(QByteArray("SELECT count(*) FROM Makaleler INDEXED BY ") + dizin) != satırlar)
+            throw VeritabanıHatası(HataNo::DosyaBozuk, kitaplık.Yol());
+    }
     return satırlar;
 }
 
@@ -177,24 +227,15 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
     struct stat eski = {};
     if (stat(QFile::encodeName(hedef).constData(), &eski) != 0)
         sistemHatası(errno, hedef);
-
-    const QString ara = hedef + u'~';
-    DosyayıSil(ara);
-    GeçiciDosya geçici(ara);
-    {
-        const Tanıtıcı okunan(yeni, O_RDONLY);
-        const Tanıtıcı yazılan(ara, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
-        std::vector<char> blok(BlokBoyu);
-        while (const std::size_t boy = okunan.Oku(blok.data(), blok.size())) {
-            yazılan.Yaz(blok.data(), boy);
-            if (bildir)
-                bildir();
-        }
-        yazılan.İzinVer(eski.st_mode & 07777);
-        yazılan.DiskeYaz();
+    try {
+        kopyasınıYerineKoy(yeni, hedef, eski, bildir);
+    } catch (const VeritabanıHatası& hata) {
+        if (hata.Numara() != HataNo::DiskDolu ||
+            QFileInfo(yeni).canonicalPath() != QFileInfo(hedef).canonicalPath())
+            throw;
+        Tanıtıcı(yeni, O_RDONLY).HaklarıVer(eski);
+        DosyayıTaşı(yeni, hedef);
     }
-    DosyayıTaşı(ara, hedef);
-    geçici.Kalsın();
 }
 
 void DosyayıTaşı(const QString& yol, const QString& yeniYol)

@@ -32,17 +32,28 @@ void KitaplıkOluştur(const QString& yol, const QString& parola);
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QString& parola, AçmaKipi kip,
                                              ÇalışmaGrubu& grup);
 
-/// Copies the rows of an open library into a new file with the same password and builds its indices.
-/// The copy is neither synced nor checked
-/// yet, and half a file on failure. Returns the number of rows.
-qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola);
+/// Whence a copy's indices come: taken over entry by entry, each put where today's collation wants it,
+/// or built anew from the rows, which deciphers all of them twice more.
+enum class DizinKaynağı
+{
+    Dizinler,
+    Satırlar
+};
+
+/// Copies the rows of an open library into a new file with the same password and makes its indices.
+/// The copy is neither synced nor checked yet, and half a file
+/// on failure. Returns the number of rows.
+qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler);
 
 /// Reads every value of every row. Throws 3049 when one can't be read whole or holds NUL, as what a
-/// damaged page deciphers to. Returns the number of rows.
+/// damaged page deciphers to, and when an index has not as many entries as there are rows. Returns the
+/// number of rows.
 qint64 TümSatırlarıOku(Bağlantı& kitaplık);
 
-/// Replaces the library by a copy of the new file, at no moment leaving a half file under its name.
-/// Follows a symbolic link and keeps the old file's access rights. On failure the old file stands.
+/// Replaces the library by a copy of the new file, at no moment leaving a half file under its name; where
+/// the disk has no room for a copy, the new file itself becomes the library. Follows a symbolic link and
+/// keeps the old file's owner and access rights. On failure the old file stands. Throws 3024, 3026, 3027
+/// and 3043, as do all that follow.
 void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir);
 
 /// Writes a file's bytes and its folder's entry to the disk.
@@ -51,7 +62,7 @@ void DiskeYaz(const QString& yol);
 /// Gives a file another name in its folder, over a file that has it, and writes the folder to the disk.
 void DosyayıTaşı(const QString& yol, const QString& yeniYol);
 
-/// Deletes a file if there is one. Throws 3027 or 3051 when it can't be deleted.
+/// Deletes a file if there is one.
 void DosyayıSil(const QString& yol);
 
 /// The password of a connect string such as ";PWD=..."; the keyword's letter case makes no difference.

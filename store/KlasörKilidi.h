@@ -9,7 +9,8 @@
 class KlasörKilidi
 {
 public:
-    /// Throws 3045 when another process holds the lock, 3024 when there is no such folder, and 3043
+    /// Throws 3045 when another process holds the lock, 3024 when there is no such folder, 3051 when
+    /// it may not be read, and 3043
     /// where the file system can't lock folders.
     explicit KlasörKilidi(const QString& klasör);
     ~KlasörKilidi();

@@ -42,5 +42,6 @@ inline constexpr int KitaplıkSürümü = 1;
 
 /// The statement that creates the table in the named attached database.
 QByteArray TabloSql(const QByteArray& veritabanı);
-/// The statements that create the indices; run after the rows are in.
+inline constexpr std::array<const char*, 2> DizinAdları = {"YazarDizini", "BaslikDizini"};
+/// The statements that create the indices.
 std::array<QByteArray, 2> DizinSql(const QByteArray& veritabanı);

@@ -3,6 +3,7 @@
 #include "store/Bağlantı.h"
 
 #include <QByteArrayList>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -26,6 +27,20 @@ std::optional<QStringView> yıldızdanSonrası(QStringView sql)
     if (!kalan.startsWith(u'*'))
         return {};
     return kalan.sliced(1);
+}
+
+/// A query that looks into the long texts goes through the table in its own order: through an index it
+/// would decipher pages that hold several rows again for each of them.
+QString metinTaraması(QStringView kalan)
+{
+    static const QRegularExpression tablo(
+        QStringLiteral("^\\s*FROM\\s+(\\[Makaleler\\]|Makaleler)(?=\\s+(WHERE|ORDER)\\b)"),
+        QRegularExpression::CaseInsensitiveOption);
+    QString sql = kalan.toString();
+    if (const auto uyan = tablo.match(sql);
+        uyan.hasMatch() && sql.contains(Tanım(MakaleSütunu::MakaleMetni).ad))
+        sql.insert(uyan.capturedEnd(), QStringLiteral(" NOT INDEXED"));
+    return sql;
 }
 
 void sorguOlmalı(const QString& sql)
@@ -62,7 +77,7 @@ Recordset::Recordset(std::shared_ptr<Bağlantı> bağlantı, const QString& sorg
             sütunlar_.push_back(tanım.ad.toString());
         // The title comes along because an index or the sorter holds it anyway; reading it row by row
         // later would decipher the table's pages.
-        anahtarlarıOku("SELECT Kimlik, MakaleBasligi" + kalan->toUtf8());
+        anahtarlarıOku("SELECT Kimlik, MakaleBasligi" + metinTaraması(*kalan).toUtf8());
     } else {
         değerleriOku(sql.toUtf8());
     }

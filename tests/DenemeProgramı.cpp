@@ -15,32 +15,12 @@ DenemeProgramı::DenemeProgramı(const QList<Makale>& makaleler) : kitaplık_(ma
     AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - Belgenar 1.00");
     AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\Belgenar");
     ProgramKlasörü = kitaplık_.Klasör();
-    Aç();
+    KitaplığıAç();
 }
 
 DenemeProgramı::~DenemeProgramı()
 {
-    Kapat();
-}
-
-void DenemeProgramı::Aç()
-{
-    Motor.emplace();
-    Motor->SystemDB(kitaplık_.Yol(KitaplıkDosyaları::ÇalışmaGrubu));
-    {
-        const Workspace sahip = SahipÇalışmaAlanı(*Motor);
-        VeritabanınıSıkıştır(*Motor, ProgramKlasörü, {});
-        KullanıcıHesabınıHazırla(sahip);
-    }
-    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
-    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
-}
-
-void DenemeProgramı::Kapat()
-{
-    Veritabanı.reset();
-    ÇalışmaAlanı.reset();
-    Motor.reset();
+    KitaplığıBırak();
 }
 
 KutuYanıtlayıcı::KutuYanıtlayıcı(Yanıt yanıt, std::function<void(QMessageBox&)> önce)

@@ -21,9 +21,6 @@ public:
     ~DenemeProgramı();
 
     const QString& Klasör() const { return kitaplık_.Klasör(); }
-    /// Runs the opening steps again, as a next start would.
-    void Aç();
-    void Kapat();
 
 private:
     DenemeKitaplığı kitaplık_;

@@ -4,138 +4,147 @@
 #include "store/Bağlantı.h"
 
 #include <QElapsedTimer>
-#include <QFileInfo>
+#include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
 
-#include <algorithm>
-#include <array>
-#include <chrono>
-#include <thread>
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int AçılışÖldürme = 200;
-constexpr int YazarkenÖldürme = 100;
+constexpr int AçılışÖldürme = 200, YazarkenÖldürme = 100;
 constexpr int DenetimSınırı = 300;  // a kill without a journal does damage about once in ten times
 constexpr int EnUzunYazma = 60'000; // µs from the first change to the kill
+constexpr int MakaleSayısı = 24, UzunBoy = 200'000, KısaBoy = 2'000;
+constexpr int AzSayfa = 8; // so little memory that most changes write pages before they are committed
 
-void bekle(qint64 mikrosaniye)
+/// Writes a line, which outlives the process.
+void bildir(const QByteArray& satır)
 {
-    std::this_thread::sleep_for(std::chrono::microseconds(mikrosaniye));
+    if (write(STDOUT_FILENO, (satır + '\n').constData(), size_t(satır.size()) + 1) != satır.size() + 1)
+        _exit(1);
 }
 
-/// Kills the process and returns the lines that it had written.
-QByteArrayList öldür(QProcess& süreç)
+/// A process of its own, forked for the work. Its first line says that it is ready.
+class Süreç
 {
-    süreç.kill();
-    süreç.waitForFinished();
-    return süreç.readAllStandardOutput().split('\n');
-}
-
-QList<Makale> örnekMakaleler()
-{
-    QList<Makale> liste;
-    for (int i = 0; i < 60; ++i)
-        liste.append({u"YAZAR %1"_s.arg(i % 7), u"BAŞLIK %1"_s.arg(i), UzunMetin(i, i % 10 ? 500 : 200'000)});
-    return liste;
-}
-
-/// How long a whole start takes, and the part of it from the first copied block on, in µs.
-struct Süreler
-{
-    qint64 tümü = 0, son = 0;
-};
-
-Süreler açılışıÖlç(const QString& klasör)
-{
-    auto süreç = YardımcıSüreç({u"ac"_s, klasör});
-    QElapsedTimer saat;
-    saat.start();
-    while (!süreç->canReadLine() && süreç->waitForReadyRead()) {
-    }
-    const qint64 ilkBlok = saat.nsecsElapsed() / 1000;
-    süreç->waitForFinished();
-    const qint64 tümü = saat.nsecsElapsed() / 1000;
-    return {tümü, tümü - ilkBlok};
-}
-
-using Durum = QMap<int, QString>; // check sums by article number
-
-/// The library's articles; throws what opening and reading throws.
-/// @param bozuk becomes what is wrong with an article or the file
-Durum durumuOku(const QString& klasör, QString& bozuk)
-{
-    Durum durum;
-    const auto bağlantı = DosyaBağlantısı(klasör);
-    Recordset kayıtlar(bağlantı, u"SELECT * FROM Makaleler"_s);
-    for (; !kayıtlar.Eof(); kayıtlar.MoveNext()) {
-        const int no = kayıtlar.Fields(u"MakaleBasligi").Value().mid(7).toInt();
-        const QString damga = MetninDamgası(kayıtlar.Fields(u"MakaleMetni").Value());
-        if (damga.isEmpty() || damga != kayıtlar.Fields(u"YayimTarihi").Value())
-            bozuk = u"article %1 is not whole"_s.arg(no);
-        if (durum.contains(no))
-            bozuk = u"article %1 is there twice"_s.arg(no);
-        durum.insert(no, damga);
-    }
-    if (const QString sonuç = bağlantı->Metin("PRAGMA integrity_check"); sonuç != u"ok"_s)
-        bozuk = sonuç;
-    return durum;
-}
-
-void uygula(Durum& durum, const QByteArrayList& öncesi)
-{
-    const int no = öncesi[1].toInt();
-    if (öncesi[2] == "-")
-        durum.remove(no);
-    else
-        durum.insert(no, QString::fromLatin1(öncesi[2]));
-}
-
-/// One killed writer: what must be there after it, and what may be there instead.
-struct Beklenen
-{
-    Durum kesin, olası;
-    int değişiklikler = 0;
-    bool yarıda = false; // killed while a change was being written
-};
-
-Beklenen yazdırıpÖldür(const QString& kip, const QString& klasör, const Durum& önceki,
-                       QRandomGenerator& rastgele)
-{
-    auto süreç = YardımcıSüreç({kip, klasör, QString::number(rastgele.generate())});
-    bekle(rastgele.bounded(EnUzunYazma));
-    Beklenen beklenen{önceki, önceki};
-    QByteArrayList bekleyen;
-    for (const QByteArray& satır : öldür(*süreç)) {
-        if (satır.startsWith("önce")) {
-            bekleyen = satır.split(' ');
-        } else if (satır == "sonra") {
-            uygula(beklenen.kesin, bekleyen);
-            bekleyen.clear();
-            ++beklenen.değişiklikler;
+public:
+    explicit Süreç(const std::function<void()>& iş)
+    {
+        int boru[2] = {};
+        if (pipe(boru) != 0 || (no_ = fork()) < 0)
+            qFatal("cannot start a process");
+        if (no_ == 0) {
+            close(boru[0]);
+            dup2(boru[1], STDOUT_FILENO);
+            [&iş]() noexcept { iş(); }();
+            _exit(0);
         }
+        close(boru[1]);
+        çıktı_.open(boru[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+        SatırBekle();
     }
-    beklenen.olası = beklenen.kesin;
-    beklenen.yarıda = !bekleyen.isEmpty();
-    if (beklenen.yarıda)
-        uygula(beklenen.olası, bekleyen);
-    return beklenen;
+    void SatırBekle() { çıktı_.readLine(); }
+    /// Kills it after that many µs; returns the further lines that it had written.
+    QByteArrayList Öldür(double bekleme)
+    {
+        usleep(useconds_t(bekleme));
+        kill(no_, SIGKILL);
+        waitpid(no_, nullptr, 0);
+        return çıktı_.readAll().split('\n');
+    }
+
+private:
+    pid_t no_ = 0;
+    QFile çıktı_;
+};
+
+/// The start sequence: "kopya" for each block that is copied beside the library to replace it, "açık".
+void aç(const DenemeKitaplığı& kitaplık)
+{
+    bildir("hazır");
+    const QString ara = kitaplık.Klasör() + u"Makale.mde~"_s;
+    const Açılış açılış(kitaplık.Klasör(), [&ara] { QFile::exists(ara) ? bildir("kopya") : void(); });
+    bildir("açık");
 }
 
-/// What is wrong with the library, empty when nothing is; then the state that was found.
-QString sına(const QString& klasör, const Beklenen& beklenen, Durum& bulunan)
+/// Adds, changes and deletes: "önce NO TEXT" before each change (TEXT is - for a deletion), "sonra" after it.
+[[noreturn]] void yaz(const QString& klasör, quint32 tohum, const QByteArray& günlükKipi)
 {
-    QString bozuk;
-    try {
-        bulunan = durumuOku(klasör, bozuk);
-    } catch (const VeritabanıHatası& hata) {
-        return hata.Açıklama();
+    QRandomGenerator rastgele(tohum);
+    const auto bağlantı = DosyaBağlantısı(klasör, AzSayfa);
+    bağlantı->Metin("PRAGMA journal_mode=" + günlükKipi);
+    bildir("hazır");
+    for (;;) {
+        const QString no = QString::number(rastgele.bounded(MakaleSayısı));
+        Recordset kayıt(bağlantı, u"SELECT * FROM Makaleler WHERE MakaleBasligi='%1'"_s.arg(no));
+        const int t = rastgele.bounded(1000), boy = rastgele.bounded(rastgele.bounded(4) ? UzunBoy : KısaBoy);
+        const bool sil = !kayıt.Eof() && rastgele.bounded(3) == 0;
+        const QString metin = sil ? u"-"_s : u"%1/%2"_s.arg(t).arg(boy);
+        bildir("önce " + no.toLatin1() + ' ' + metin.toLatin1());
+        if (sil) {
+            kayıt.Delete();
+        } else {
+            kayıt.Eof() ? kayıt.AddNew() : kayıt.Edit();
+            Doldur(kayıt, {metin.left(1), no, UzunMetin(t, boy), {}, metin});
+        }
+        bildir("sonra");
     }
-    if (bozuk.isEmpty() && bulunan != beklenen.kesin && bulunan != beklenen.olası)
-        bozuk = u"a change is lost"_s;
+}
+
+/// Each article's "SEED/LENGTH", from which UzunMetin makes its text.
+using Durum = QMap<QString, QString>;
+
+/// Reads the library; returns what is wrong with it.
+QString oku(const QString& klasör, Durum& durum)
+try {
+    durum.clear();
+    const auto bağlantı = DosyaBağlantısı(klasör);
+    for (const Makale& makale : Makaleler(Database(bağlantı))) {
+        const int t = makale.Tarih.section(u'/', 0, 0).toInt(), boy = int(makale.Metin.size());
+        if (makale.Metin != UzunMetin(t, boy) || makale.Tarih != u"%1/%2"_s.arg(t).arg(boy))
+            return u"an article is not whole"_s;
+        if (durum.contains(makale.Başlık))
+            return u"an article is there twice"_s;
+        durum.insert(makale.Başlık, makale.Tarih);
+    }
+    const QString sonuç = bağlantı->Metin("PRAGMA integrity_check");
+    return sonuç == u"ok"_s ? QString() : sonuç;
+} catch (const VeritabanıHatası& hata) {
+    return hata.Açıklama();
+}
+
+/// Kills writing processes, at most so many, until the library is damaged or a finished change lost.
+QString yazarkenÖldür(const QByteArray& günlükKipi, int enÇok)
+{
+    const quint32 tohum = QRandomGenerator::system()->generate();
+    QRandomGenerator rastgele(tohum);
+    const DenemeKitaplığı kitaplık;
+    Durum bulunan;
+    QString bozuk;
+    int öldürülen = 0;
+    for (; bozuk.isEmpty() && öldürülen < enÇok; ++öldürülen) {
+        Süreç süreç([&, t = rastgele.generate()] { yaz(kitaplık.Klasör(), t, günlükKipi); });
+        Durum kesin = bulunan, sonraki = bulunan;
+        for (const QByteArray& satır : süreç.Öldür(rastgele.bounded(EnUzunYazma))) {
+            const QStringList sözler = QString::fromUtf8(satır).split(u' ');
+            if (satır == "sonra")
+                kesin = sonraki;
+            else if (sözler.size() == 3 && sözler[2] == u"-")
+                sonraki.remove(sözler[1]);
+            else if (sözler.size() == 3)
+                sonraki.insert(sözler[1], sözler[2]);
+        }
+        bozuk = oku(kitaplık.Klasör(), bulunan);
+        if (bozuk.isEmpty() && bulunan != kesin && bulunan != sonraki)
+            bozuk = u"a change is lost"_s;
+    }
+    qInfo("seed %u: %d kills, %lld articles; %s", tohum, öldürülen, qlonglong(bulunan.size()),
+          qPrintable(bozuk));
     return bozuk;
 }
 
@@ -146,93 +155,45 @@ class TestStoreKill : public QObject
     Q_OBJECT
 
 private slots:
-    void killedDuringStart();
-    void killedWhileWriting();
-    void killedWithoutJournal();
-};
+    void duringStart()
+    {
+        const quint32 tohum = QRandomGenerator::system()->generate();
+        QRandomGenerator rastgele(tohum);
+        QList<Makale> makaleler;
+        for (int i = 0; i < 60; ++i)
+            makaleler.append({u"YAZAR"_s, QString::number(i), UzunMetin(i, i % 10 ? 500 : 200'000)});
+        const DenemeKitaplığı kitaplık(makaleler);
+        const auto sağlam = [&] { return Makaleler(*Açılış(kitaplık.Klasör()).Veritabanı) == makaleler; };
+        QElapsedTimer saat;
+        saat.start();
+        QVERIFY(sağlam());
+        const double süre = double(saat.nsecsElapsed()) / 1000;
 
-void TestStoreKill::killedDuringStart()
-{
-    const quint32 tohum = QRandomGenerator::system()->generate();
-    QRandomGenerator rastgele(tohum);
-    const QList<Makale> makaleler = örnekMakaleler();
-    const DenemeKitaplığı kitaplık(makaleler);
-    std::array<Süreler, 3> ölçüler;
-    for (Süreler& ölçü : ölçüler)
-        ölçü = açılışıÖlç(kitaplık.Klasör());
-    std::nth_element(ölçüler.begin(), ölçüler.begin() + 1, ölçüler.end(),
-                     [](const Süreler& a, const Süreler& b) { return a.tümü < b.tümü; });
-    const Süreler süre = ölçüler[1];
-
-    int denenen = 0, isabet = 0, yarımKopya = 0, değiştirirken = 0;
-    for (; isabet < AçılışÖldürme && denenen < 3 * AçılışÖldürme; ++denenen) {
-        auto süreç = YardımcıSüreç({u"ac"_s, kitaplık.Klasör()});
-        QVERIFY(süreç);
-        // Most of a start derives keys; every other kill aims at the moments when files change.
-        if (denenen % 2 == 0) {
-            bekle(qint64(rastgele.bounded(double(süre.tümü))));
-        } else {
-            while (!süreç->canReadLine() && süreç->waitForReadyRead()) {
-            }
+        int denenen = 0, isabet = 0, değiştirirken = 0;
+        for (; isabet < AçılışÖldürme && denenen < 3 * AçılışÖldürme; ++denenen) {
+            Süreç süreç([&] { aç(kitaplık); });
+            // Most of a start derives keys; every other kill aims at the moments when files change.
+            const bool değişimde = denenen % 2 == 0;
+            if (değişimde)
+                süreç.SatırBekle();
             const double oran = rastgele.generateDouble();
-            bekle(qint64(oran * oran * oran * double(süre.son))); // early ones more often
+            if (süreç.Öldür(değişimde ? oran * oran * oran * süre / 4 : oran * süre).contains("açık"))
+                continue;
+            ++isabet;
+            değiştirirken += QFile::exists(kitaplık.Klasör() + u"Makale.mde~"_s);
+            bool iyi = false;
+            const int hata = HataNumarası([&] { iyi = sağlam(); });
+            QVERIFY2(iyi, qPrintable(u"error %1 (seed %2, kill %3)"_s.arg(hata).arg(tohum).arg(denenen)));
         }
-        const QByteArrayList satırlar = öldür(*süreç);
-        if (satırlar.contains("açık"))
-            continue;
-        ++isabet;
-        değiştirirken += QFileInfo::exists(kitaplık.Yol(KitaplıkDosyaları::Veritabanı) + u'~');
-        yarımKopya += QFileInfo::exists(kitaplık.Yol(KitaplıkDosyaları::Kopya));
-        try {
-            QCOMPARE(Makaleler(Açılış(kitaplık.Klasör()).Veritabanı), makaleler);
-        } catch (const VeritabanıHatası& hata) {
-            QFAIL(qPrintable(u"%1 (seed %2, kill %3)"_s.arg(hata.Açıklama()).arg(tohum).arg(denenen)));
-        }
+        qInfo("seed %u: %d kills, %d in time, %d in the last copy", tohum, denenen, isabet, değiştirirken);
+        QVERIFY(isabet >= AçılışÖldürme && değiştirirken > 0);
     }
-    qInfo(
-        "seed %u, start %lld ms: %d kills, %d during the start, %d with a copy, %d while it was put in place",
-        tohum, süre.tümü / 1000, denenen, isabet, yarımKopya, değiştirirken);
-    QVERIFY(isabet >= AçılışÖldürme);
-    QVERIFY(değiştirirken > 0);
-}
 
-void TestStoreKill::killedWhileWriting()
-{
-    const quint32 tohum = QRandomGenerator::system()->generate();
-    QRandomGenerator rastgele(tohum);
-    const DenemeKitaplığı kitaplık;
-    Durum durum;
-    int değişiklikler = 0, yarıda = 0, günlüklü = 0;
-    for (int i = 0; i < YazarkenÖldürme; ++i) {
-        const Beklenen beklenen = yazdırıpÖldür(u"yaz"_s, kitaplık.Klasör(), durum, rastgele);
-        değişiklikler += beklenen.değişiklikler;
-        yarıda += beklenen.yarıda;
-        günlüklü += QFileInfo::exists(kitaplık.Yol(KitaplıkDosyaları::Veritabanı) + u"-journal"_s);
-        const QString bozuk = sına(kitaplık.Klasör(), beklenen, durum);
-        QVERIFY2(bozuk.isEmpty(), qPrintable(u"%1 (seed %2, kill %3)"_s.arg(bozuk).arg(tohum).arg(i)));
-    }
-    qInfo("seed %u: %d kills after %d changes, %d in a change, %d of them with a journal left", tohum,
-          YazarkenÖldürme, değişiklikler, yarıda, günlüklü);
-    QVERIFY(değişiklikler > 0 && günlüklü > 0);
-    QCOMPARE(Makaleler(Açılış(kitaplık.Klasör()).Veritabanı).size(), durum.size());
-}
+    void whileWriting() { QCOMPARE(yazarkenÖldür("DELETE", YazarkenÖldürme), QString()); }
 
-// The same run without what protects it: were nothing found here, the run above would prove nothing.
-void TestStoreKill::killedWithoutJournal()
-{
-    const quint32 tohum = QRandomGenerator::system()->generate();
-    QRandomGenerator rastgele(tohum);
-    const DenemeKitaplığı kitaplık;
-    Durum durum;
-    QString bozuk;
-    int denenen = 0;
-    for (; bozuk.isEmpty() && denenen < DenetimSınırı; ++denenen) {
-        const Beklenen beklenen = yazdırıpÖldür(u"gunluksuz-yaz"_s, kitaplık.Klasör(), durum, rastgele);
-        bozuk = sına(kitaplık.Klasör(), beklenen, durum);
-    }
-    qInfo("seed %u: damage after %d kills: %s", tohum, denenen, qPrintable(bozuk));
-    QVERIFY(!bozuk.isEmpty());
-}
+    // Without what protects it: were nothing found here, the run above would prove nothing.
+    void withoutJournal() { QVERIFY(!yazarkenÖldür("OFF", DenetimSınırı).isEmpty()); }
+};
 
 QTEST_GUILESS_MAIN(TestStoreKill)
 #include "test_store_kill.moc"

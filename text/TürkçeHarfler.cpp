@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -13,7 +14,8 @@ constexpr char16_t NoktasızKüçükI = u'\u0131';
 
 using HarfTablosu = std::array<char16_t, 0x10000>;
 
-char16_t katlanmış(char16_t harf)
+/// The small letter of the two capital I's; nothing for any other letter.
+constexpr std::optional<char16_t> küçükI(char16_t harf)
 {
     switch (harf) {
     case u'I':
@@ -21,8 +23,13 @@ char16_t katlanmış(char16_t harf)
     case NoktalıBüyükİ:
         return u'i';
     default:
-        return QChar(harf).toCaseFolded().unicode();
+        return {};
     }
+}
+
+char16_t katlanmış(char16_t harf)
+{
+    return küçükI(harf).value_or(QChar(harf).toCaseFolded().unicode());
 }
 
 // Folding is asked for each unit of each searched text, so it is one look-up in a table made once.
@@ -81,14 +88,7 @@ char16_t BüyükHarf(char16_t harf) noexcept
 
 char16_t KüçükHarf(char16_t harf) noexcept
 {
-    switch (harf) {
-    case u'I':
-        return NoktasızKüçükI;
-    case NoktalıBüyükİ:
-        return u'i';
-    default:
-        return QChar(harf).toLower().unicode();
-    }
+    return küçükI(harf).value_or(QChar(harf).toLower().unicode());
 }
 
 QString BüyükHarfeÇevir(QStringView metin)
