@@ -366,7 +366,7 @@ void TestFinding::inputDuringSearch()
             çok.append({u"ÇOK YAZAR"_s, u"BAŞLIK %1"_s.arg(i), UzunMetin(i, 3000)});
         Ekle(*Veritabanı, çok);
     });
-    word().Text(u"*q*q*q*q*q*yok"_s); // slow on purpose
+    word().Text(u'a' + QString(20, u'?') + u'#'); // slow on purpose: no letters to look for
     int boyama = 0;
     QTimer saat;
     QObject::connect(&saat, &QTimer::timeout, &saat, [&] {

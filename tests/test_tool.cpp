@@ -13,49 +13,39 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int Süre = 60'000;              // ms
-using Sonuç = std::pair<int, QByteArray>; // exit status, -1 when killed; the output, errors last
-
-/// @param baş how the output begins; of an error what comes behind the tool's name
-void olmalı(const Sonuç& sonuç, int durum, const QByteArray& baş)
-{
-    const bool uyar = sonuç.second.startsWith(baş) || sonuç.second.startsWith("belgenar-kitaplik: " + baş);
-    QVERIFY2(uyar && sonuç.first == durum, baş + " expected, " + sonuç.second);
-}
-
-QByteArray satır(const QByteArray& başlık, const QByteArray& metin = "Metin.")
+static QByteArray satır(const QByteArray& başlık, const QByteArray& metin = "Metin.")
 {
     return R"({"YazarAdi": "ALİ KAYA", "MakaleBasligi": ")" + başlık +
            R"(", "YayimYeri": "Rize", "YayimTarihi": "", "MakaleMetni": ")" + metin + "\"}\n";
 }
 
-} // namespace
-
 class TestTool : public QObject
 {
     Q_OBJECT
-
+    using Sonuç = std::pair<int, QByteArray>; // exit status, -1 when killed; the output, errors last
     std::unique_ptr<QTemporaryDir> geçici_;
-    QString klasör_, kitaplık_, grup_; // a library with two articles
+    QString klasör_; // with a library of two articles
     const QByteArray makaleler_ = satır("BİR") + satır("İKİ");
 
-    /// @param ara called while the tool works
-    Sonuç komut(const QString& ad, const QString& dosya = {}, const QByteArray& girdi = {},
-                const QString& çıktı = {}, const std::function<void(int pid)>& ara = {}) const
+    Sonuç komut(const QString& ad, const QString& yol = {}, const QByteArray& girdi = {},
+                const QString& çıktı = {}, const std::function<void(int pid)>& sürerken = {}) const
     {
-        QProcess süreç;
-        süreç.setChildProcessModifier([] { prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE); }); // root may write all
-        süreç.setStandardOutputFile(çıktı);
-        const QStringList sözler = {ad, klasör_, dosya};
-        süreç.start(QStringLiteral(COMPANION_TOOL), sözler.mid(0, dosya.isEmpty() ? 2 : 3));
-        süreç.write(girdi);
-        if (ara)
-            ara(int(süreç.processId()));
-        süreç.closeWriteChannel();
-        const bool bitti = süreç.waitForFinished(Süre) && süreç.exitStatus() == QProcess::NormalExit;
-        return {bitti ? süreç.exitCode() : -1, süreç.readAllStandardOutput() + süreç.readAllStandardError()};
+        QProcess p;
+        p.setChildProcessModifier([] { prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE); }); // root may write all
+        p.setStandardOutputFile(çıktı);
+        p.start(QStringLiteral(COMPANION_TOOL), QStringList{ad, klasör_, yol}.mid(0, yol.isEmpty() ? 2 : 3));
+        p.write(girdi);
+        if (sürerken)
+            sürerken(int(p.processId()));
+        p.closeWriteChannel();
+        const bool bitti = p.waitForFinished(60'000) && p.exitStatus() == QProcess::NormalExit;
+        return {bitti ? p.exitCode() : -1, p.readAllStandardOutput() + p.readAllStandardError()};
+    }
+    /// @param baş how the output begins; of an error what comes behind the tool's name
+    static void olmalı(const Sonuç& s, int durum, const QByteArray& baş)
+    {
+        const bool uyar = s.second.startsWith(baş) || s.second.startsWith("belgenar-kitaplik: " + baş);
+        QVERIFY2(uyar && s.first == durum, baş + " expected, " + s.second);
     }
     void denetim(int durum, const QByteArray& baş) const // changes nothing
     {
@@ -70,8 +60,6 @@ private slots:
         qputenv("LC_ALL", "C");
         geçici_ = std::make_unique<QTemporaryDir>();
         klasör_ = geçici_->filePath(u"Çöğür Işık/"_s);
-        kitaplık_ = klasör_ + u"Makale.mde"_s;
-        grup_ = klasör_ + u"Makale.tps"_s;
         olmalı(komut(u"oluştur"_s), 0, "Boş bir kitaplık oluşturuldu: ");
         olmalı(komut(u"aktar"_s, u"-"_s, makaleler_), 0, "2 makale aktarıldı.\n");
     }
@@ -79,13 +67,13 @@ private slots:
     void roundTrip()
     {
         QByteArray döküm = DosyaOku(QStringLiteral(STARTER_LIBRARY)),
-                   sayı = QByteArray::number(döküm.count('\n'));
+                   n = QByteArray::number(döküm.count('\n'));
         for (const char* yerel : {"C", "C.UTF-8", "tr_TR.UTF-8"}) {
             qputenv("LC_ALL", yerel);
             klasör_ = geçici_->filePath(u"öykü/ığdır %1/"_s.arg(QString::fromLatin1(yerel)));
             olmalı(komut(u"olustur"_s), 0, "Boş bir");
-            olmalı(komut(u"aktar"_s, u"-"_s, döküm), 0, sayı + " makale aktarıldı.\n");
-            denetim(0, "Kitaplık sağlam; " + sayı + " makale var.\n");
+            olmalı(komut(u"aktar"_s, u"-"_s, döküm), 0, n + " makale aktarıldı.\n");
+            denetim(0, "Kitaplık sağlam; " + n + " makale var.\n");
             const QByteArray yeni = komut(u"dok"_s).second;
             for (const QByteArray& satır : yeni.split('\n'))
                 QVERIFY2(döküm.contains(satır) && yeni.size() == döküm.size(), satır);
@@ -97,15 +85,15 @@ private slots:
     void badLineIsNamed()
     {
         const QByteArray json = "Geçerli bir JSON değil; sorun ", yer = "\"YayimYeri\": \"Rize\"";
+        const auto yerine = [](const auto& eski, const auto& yeni) { return satır("Ü").replace(eski, yeni); };
         // clang-format off
         const std::pair<QByteArray, QByteArray> bozuklar[] = {
             {satır("\xff"), "Satır geçerli bir UTF-8"}, {satır("ÜÇ").left(20) + "\n", json + "20. karakter"},
             {satır("ÜÇ").trimmed() + satır("ÜÇ"), json}, {satır("Ü\tÇ"), json + "45. karakter"},
             {satır("\\\\\\q"), json}, {satır("\\u12+4"), json}, {"[1]\n", "Satır bir JSON nesnesi"},
-            {satır("ÜÇ").replace(yer, yer + ", \"Y\": \"\""), "\"Y\" diye"}, {satır(" \\t"), "MakaleBasligi alanı boş"},
-            {satır("ÜÇ").replace(yer + ", ", ""), "YayimYeri alanı eksik"}, {satır("\\ud83d"), "MakaleBasligi alanında yarım"},
-            {satır("ÜÇ").replace("\"Rize\"", "1999"), "YayimYeri alanının değeri bir metin değil"},
-            {satır("ÜÇ", "a\\u0000b"), "MakaleMetni alanında kullanılamayan"},
+            {yerine(yer, yer + ", \"Y\": \"\""), "\"Y\" diye"}, {yerine(yer + ", ", ""), "YayimYeri alanı"},
+            {yerine("\"Rize\"", "1"), "YayimYeri alanının"}, {satır("Ü", "\\u0000"), "MakaleMetni alanında"},
+            {satır(" \\t"), "MakaleBasligi alanı boş"}, {satır("\\ud83d"), "MakaleBasligi alanında yarım"},
             {satır(QByteArray("Ç").repeated(1001)), "MakaleBasligi alanı çok uzun: 1001 karakter"}};
         // clang-format on
         const QString dosya = geçici_->filePath(u"%1.jsonl"_s);
@@ -118,8 +106,8 @@ private slots:
         }
         // A byte order mark, no line end at last; a letter and its mark apart, an apostrophe, escapes.
         const QByteArray im = "\xef\xbb\xbf", üç = satır("ÜÇ", im + "\\u0041\\\\\\\"\\n\\ud83d\\ude00");
-        olmalı(komut(u"aktar"_s, u"-"_s, im + satır("O'NUN C\xcc\xa7") + " \r\n" + üç.trimmed()), 0,
-               "2 makale");
+        DosyaYaz(dosya, im + satır("O'NUN C\xcc\xa7") + " \r\n" + üç.trimmed());
+        olmalı(komut(u"aktar"_s, dosya), 0, "2 makale");
         const QByteArray yeni = satır("O'NUN \xc3\x87") + satır("ÜÇ", im + "A\\\\\\\"\\n😀");
         QCOMPARE(komut(u"dök"_s), Sonuç(0, makaleler_ + yeni));
     }
@@ -130,28 +118,26 @@ private slots:
         olmalı(komut(u"aktar"_s, u"/yok.jsonl"_s), 1, "3024: ");
         olmalı(komut(u"oluştur"_s), 1, "3204: Dosya zaten var.");
         olmalı(komut(u"dök"_s, {}, {}, u"/dev/full"_s), 1, "3026: ");
-        for (const char* sql : {"", "BEGIN EXCLUSIVE"}) { // another process locks the folder, or the file
-            std::optional<KlasörKilidi> kilit;
-            const auto bağlantı = DosyaBağlantısı(klasör_);
-            *sql ? bağlantı->Çalıştır(sql) : void(kilit.emplace(klasör_));
-            olmalı(komut(u"aktar"_s, u"-"_s), 1, "3045: Dosya kullanımda;");
-            olmalı(komut(u"dök"_s), 1, "3045: ");
-        }
-        for (const QString& dosya : {kitaplık_, grup_, klasör_})
-            QVERIFY(QFile::setPermissions(dosya, QFile::ReadOwner | QFile::ExeOwner));
+        const auto başkası = DosyaBağlantısı(klasör_);
+        başkası->Çalıştır("BEGIN EXCLUSIVE");
+        olmalı(komut(u"dök"_s), 1, "3045: ");
+        başkası->Çalıştır("ROLLBACK");
+        for (const QString& yol : {u"Makale.mde"_s, u"Makale.tps"_s, u""_s})
+            QVERIFY(QFile::setPermissions(klasör_ + yol, QFile::ReadOwner | QFile::ExeOwner));
         QCOMPARE(komut(u"dök"_s), Sonuç(0, makaleler_));
         denetim(0, "Kitaplık sağlam; 2 makale var.\n");
         olmalı(komut(u"aktar"_s, u"-"_s), 1, "3027: ");
         QVERIFY(QFile::setPermissions(klasör_, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        const KlasörKilidi kilit(klasör_);
+        olmalı(komut(u"aktar"_s, u"-"_s), 1, "3045: Dosya kullanımda;");
     }
 
     void unfinishedImport()
     {
-        // More than the page cache holds, so that the library file itself is being written when it ends.
-        const QByteArray uzun = satır("UZUN", QByteArray("öykü ").repeated(20'000)).repeated(240);
+        const QByteArray uzun = satır("UZUN", QByteArray("öykü ").repeated(20'000)).repeated(240); // > cache
         for (const int işaret : {SIGINT, SIGKILL}) {
             const Sonuç sonuç = komut(u"aktar"_s, u"-"_s, uzun, {}, [&](int pid) {
-                QTRY_VERIFY_WITH_TIMEOUT(QFile(kitaplık_).size() > 1'000'000, Süre);
+                QTRY_VERIFY_WITH_TIMEOUT(QFile(klasör_ + u"Makale.mde"_s).size() > 1'000'000, 60'000);
                 kill(pid, işaret);
             });
             olmalı(sonuç, işaret == SIGINT ? 1 : -1, işaret == SIGINT ? "İşlem durduruldu" : "");
@@ -177,15 +163,15 @@ private slots:
             denetim(yakınma.startsWith("Not: ") ? 0 : 1, yakınma);
         }
         init();
-        for (const QString& dosya : {kitaplık_, grup_}) {
-            const QByteArray asıl = DosyaOku(dosya), ad = dosya.right(10).toUtf8() + ": ";
-            DosyaYaz(dosya, QByteArray(asıl).replace(2 * 16384 + 9000, 2, "??"));
-            denetim(1, ad + "3049: ");
-            DosyaYaz(dosya, asıl.left(3 * 16384));
-            denetim(1, ad + "3901: ");
-            DosyaYaz(dosya, asıl);
+        for (const QString& ad : {u"Makale.mde"_s, u"Makale.tps"_s}) {
+            const QByteArray asıl = DosyaOku(klasör_ + ad);
+            DosyaYaz(klasör_ + ad, QByteArray(asıl).replace(2 * 16384 + 9000, 2, "??"));
+            denetim(1, ad.toUtf8() + ": 3049: ");
+            DosyaYaz(klasör_ + ad, asıl.left(3 * 16384));
+            denetim(1, ad.toUtf8() + ": 3901: ");
+            DosyaYaz(klasör_ + ad, asıl);
         }
-        DosyaYaz(kitaplık_, DosyaOku(kitaplık_) + QByteArray(16384, 'x'));
+        DosyaYaz(klasör_ + u"Makale.mde"_s, DosyaOku(klasör_ + u"Makale.mde"_s) + "x");
         denetim(1, "Makale.mde: 3049: Dosyanın sonunda");
     }
 };
