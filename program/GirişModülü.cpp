@@ -16,6 +16,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QScopeGuard>
 #include <QSessionManager>
 #include <QTranslator>
 
@@ -58,6 +59,15 @@ void dosyalarıDenetle()
         reddet(45);
 }
 
+/// What a second start brings forward while there is no main window: the box that waits for the user.
+void kutuyuÖneGetir()
+{
+    if (QWidget* kutu = QApplication::activeModalWidget()) {
+        kutu->raise();
+        kutu->activateWindow();
+    }
+}
+
 /// The session's end asks like the user's own wish to close; a No stops it.
 void oturumSonunuBağla(QApplication& uygulama, AnaForm& form)
 {
@@ -72,8 +82,10 @@ void oturumSonunuBağla(QApplication& uygulama, AnaForm& form)
 
 int SubMain(QApplication& uygulama)
 {
-    std::optional<TekÖrnek> tekÖrnek; // outlives an error report, which a second start brings forward
-    return HatadaBildirVeÇık([&uygulama, &tekÖrnek] {
+    // Both outlive an error report: a second start brings it forward, and the splash stays behind it.
+    std::optional<TekÖrnek> tekÖrnek;
+    std::optional<KarşılamaFormu> karşılama;
+    return HatadaBildirVeÇık([&] {
         diliKur(uygulama);
         uygulama.setFont(FormYazıTipi());
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
@@ -81,18 +93,12 @@ int SubMain(QApplication& uygulama)
         tekÖrnek.emplace(AnaPencereBaşlığı);
         if (tekÖrnek->BaşkasıVar())
             return 0;
-        tekÖrnek->ÖneÇağrıldı = [] {
-            if (QWidget* kutu = QApplication::activeModalWidget()) {
-                kutu->raise();
-                kutu->activateWindow();
-            }
-        };
+        tekÖrnek->ÖneÇağrıldı = &kutuyuÖneGetir;
         AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(5);
         ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
         uygulama.setWindowIcon(QIcon(QStringLiteral(":/belgenar/simgeler/belgenar.png")));
 
-        KarşılamaFormu karşılama;
-        karşılama.show();
+        karşılama.emplace().show();
         PencereleriBoya();
         sürümüDenetle();
         dosyalarıDenetle();
@@ -100,9 +106,10 @@ int SubMain(QApplication& uygulama)
 
         AnaForm form;
         tekÖrnek->ÖneÇağrıldı = [&form] { form.ÖneGetir(); };
+        const auto formsuz = qScopeGuard([&tekÖrnek] { tekÖrnek->ÖneÇağrıldı = &kutuyuÖneGetir; });
         const KapatmaSinyalleri sinyaller([&form] { form.Kapat(KapanışNedeni::GörevYöneticisi); });
         oturumSonunuBağla(uygulama, form);
-        form.Göster([&karşılama] { karşılama.close(); });
+        form.Göster([&karşılama] { karşılama.reset(); });
         return form.Bitti() ? 0 : QApplication::exec();
     });
 }
