@@ -161,7 +161,7 @@ private slots:
         QRandomGenerator rastgele(tohum);
         QList<Makale> makaleler;
         for (int i = 0; i < 60; ++i)
-            makaleler.append({u"YAZAR"_s, QString::number(i), UzunMetin(i, i % 10 ? 500 : 200'000)});
+            makaleler.append({u"YAZAR"_s, QString::number(i), UzunMetin(i, i % 6 ? 500 : 200'000)});
         const DenemeKitaplığı kitaplık(makaleler);
         const auto sağlam = [&] { return Makaleler(*Açılış(kitaplık.Klasör()).Veritabanı) == makaleler; };
         QElapsedTimer saat;
