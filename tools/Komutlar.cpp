@@ -113,13 +113,25 @@ int oluştur(const QStringList& değişkenler)
     return Başarılı;
 }
 
+/// The next article. An interruption can also cut the line short that is being read: then it is what ends
+/// the work, not the line.
+std::optional<Makale> sonrakiMakale(JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
+{
+    try {
+        auto makale = satırlar.Sonraki();
+        bekçi.Bak();
+        return makale;
+    } catch (const AraçHatası&) {
+        bekçi.Bak();
+        throw;
+    }
+}
+
 void satırlarıDenetle(JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
 {
     İlerleme ilerleme(QStringLiteral("Satırlar denetleniyor"));
-    while (satırlar.Sonraki()) {
-        bekçi.Bak();
+    while (sonrakiMakale(satırlar, bekçi))
         ilerleme.Göster(satırlar.Konum(), satırlar.Boy());
-    }
     satırlar.BaşaDön();
 }
 
@@ -128,8 +140,7 @@ qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar, c
 {
     İlerleme ilerleme(QStringLiteral("Makaleler aktarılıyor"));
     Recordset kayıtlar = veritabanı.OpenRecordset(EklemeSorgusu);
-    while (const auto makale = satırlar.Sonraki()) {
-        bekçi.Bak();
+    while (const auto makale = sonrakiMakale(satırlar, bekçi)) {
         kayıtlar.AddNew();
         for (std::size_t i = 0; i < makale->size(); ++i)
             kayıtlar.Fields(MakaleSütunları[i].ad).Value((*makale)[i]);
@@ -137,7 +148,6 @@ qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar, c
         ilerleme.Göster(satırlar.BirKezOkunur() ? kayıtlar.RecordCount() : satırlar.Konum(),
                         satırlar.BirKezOkunur() ? 0 : satırlar.Boy());
     }
-    bekçi.Bak();
     return kayıtlar.RecordCount();
 }
 
