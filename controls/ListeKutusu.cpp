@@ -98,11 +98,6 @@ QString ListeKutusu::Item(int sıra) const
     return model_->metinler().value(sıra);
 }
 
-void ListeKutusu::AddItem(const QString& metin)
-{
-    model_->ekle({metin});
-}
-
 void ListeKutusu::AddItems(const QStringList& metinler)
 {
     model_->ekle(metinler);

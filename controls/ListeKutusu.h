@@ -32,7 +32,6 @@ public:
     QString Text() const;
     QString Item(int sıra) const;
 
-    void AddItem(const QString& metin);
     void AddItems(const QStringList& metinler);
     /// Empties the list; fires nothing.
     void Clear();

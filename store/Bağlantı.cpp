@@ -388,11 +388,6 @@ QString Deyim::SütunAdı(int sütun) const
     return QString::fromUtf8(sqlite3_column_name(deyim_.get(), sütun));
 }
 
-bool Deyim::SaltOkur() const
-{
-    return sqlite3_stmt_readonly(deyim_.get()) != 0;
-}
-
 İşlem::İşlem(Bağlantı& bağlantı) : bağlantı_(bağlantı)
 {
     bağlantı_.Çalıştır("BEGIN IMMEDIATE");

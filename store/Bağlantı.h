@@ -67,7 +67,7 @@ public:
     qint64 DeğişenSatır() const;  ///< rows changed by the last statement
     qint64 ToplamDeğişim() const; ///< rows changed since opening
 
-    /// Called every few thousand steps of a running statement, at most once every 20 ms; empty for none.
+    /// Called while a statement runs, at most once every 20 ms; empty for none.
     void İlerlemeAta(const std::function<void()>& bildir);
     /// The same, but the running statement ends with 3059 when the call returns false.
     void SürdürmeAta(std::function<bool()> sürsünMü);
@@ -124,8 +124,6 @@ public:
     std::string_view Baytlar(int sütun) const;
     int SütunSayısı() const;
     QString SütunAdı(int sütun) const;
-
-    bool SaltOkur() const;
 
 private:
     struct Bırakıcı

@@ -168,13 +168,22 @@ QString Recordset::değer(int sütun)
                              : Utf8Metni(metinler_[yer_ * sütunlar_.size() + sıra]);
 }
 
-QString Recordset::makaleDeğeri(MakaleSütunu sütun)
+/// The current row's key; throws where there is none, or where it was deleted.
+qint64 Recordset::geçerliKimlik() const
 {
+    if (Eof())
+        throw VeritabanıHatası(HataNo::KayıtYok);
     if (kimlikler_[yer_] == 0)
         throw VeritabanıHatası(HataNo::KayıtSilinmiş);
+    return kimlikler_[yer_];
+}
+
+QString Recordset::makaleDeğeri(MakaleSütunu sütun)
+{
+    const qint64 kimlik = geçerliKimlik();
     if (sütun == MakaleSütunu::MakaleMetni) {
         Deyim deyim(*bağlantı_, MetinSql);
-        if (!deyim.Bağla(1, kimlikler_[yer_]).Adım())
+        if (!deyim.Bağla(1, kimlik).Adım())
             throw VeritabanıHatası(HataNo::KayıtSilinmiş);
         return deyim.Metin(0);
     }
@@ -222,10 +231,7 @@ void Recordset::AddNew()
 void Recordset::Edit()
 {
     değiştirilebilirOlmalı();
-    if (Eof())
-        throw VeritabanıHatası(HataNo::KayıtYok);
-    if (kimlikler_[yer_] == 0)
-        throw VeritabanıHatası(HataNo::KayıtSilinmiş);
+    geçerliKimlik();
     CancelUpdate();
     bekleyen_ = Bekleyen::Değişiklik;
 }
@@ -285,11 +291,7 @@ void Recordset::CancelUpdate()
 void Recordset::Delete()
 {
     değiştirilebilirOlmalı();
-    if (Eof())
-        throw VeritabanıHatası(HataNo::KayıtYok);
-    if (kimlikler_[yer_] == 0)
-        throw VeritabanıHatası(HataNo::KayıtSilinmiş);
-    Deyim(*bağlantı_, SilSql).Bağla(1, kimlikler_[yer_]).Çalıştır();
+    Deyim(*bağlantı_, SilSql).Bağla(1, geçerliKimlik()).Çalıştır();
     kimlikler_[yer_] = 0;
     CancelUpdate();
     if (bağlantı_->DeğişenSatır() == 0) // another recordset was first

@@ -109,6 +109,7 @@ private:
     void anahtarlarıOku(const QByteArray& sql);
     void değerleriOku(const QByteArray& sql);
     void değiştirilebilirOlmalı() const;
+    qint64 geçerliKimlik() const;
     Bağlantı& açık() const;
     QString değer(int sütun);
     QString makaleDeğeri(MakaleSütunu sütun);

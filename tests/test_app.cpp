@@ -21,6 +21,7 @@ class TestApp : public QObject
 private slots:
     void systemVersion_data();
     void systemVersion();
+    void wordProcessorKey();
     void displayMaps();
     void numbersFromSettings_data();
     void numbersFromSettings();
@@ -62,6 +63,20 @@ void TestApp::systemVersion()
     sürüm.Ana = static_cast<quint32>(major);
     sürüm.ServisPaketi = servicePack;
     QTEST(SürümUygun(sürüm), "fits");
+}
+
+void TestApp::wordProcessorKey()
+{
+    const QTemporaryDir folder;
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(folder.path()));
+    const QString anahtar = u"Word.Document\\CurVer"_s;
+    QCOMPARE(KayıtMetniOku(KayıtKökü::Sınıflar, anahtar, {}), QString());
+    QFile program(folder.filePath(u"soffice"_s));
+    QVERIFY(program.open(QIODevice::WriteOnly) && program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(!KayıtMetniOku(KayıtKökü::Sınıflar, anahtar, {}).isEmpty());
+    QCOMPARE(KayıtMetniOku(KayıtKökü::Sınıflar, u"Başka"_s, {}), QString());
+    qputenv("PATH", path);
 }
 
 void TestApp::displayMaps()
