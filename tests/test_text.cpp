@@ -1,6 +1,8 @@
 #include "text/TürkçeHarfler.h"
 #include "text/TürkçeSıralama.h"
+#include "text/TürkçeTarih.h"
 
+#include <QDate>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +21,8 @@ private slots:
     void properCase();
     void order_data();
     void order();
+    void dates_data();
+    void dates();
 };
 
 void TestText::foldingKeepsPositions()
@@ -125,6 +129,66 @@ void TestText::order()
     };
     QCOMPARE(işaret(TürkçeKarşılaştır(görünüm(first), görünüm(second))), sign);
     QCOMPARE(işaret(TürkçeKarşılaştır(görünüm(second), görünüm(first))), -sign);
+}
+
+void TestText::dates_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isDate");
+    const auto rows = [](const char* name, bool isDate, const QStringList& texts) {
+        for (const QString& text : texts)
+            QTest::addRow("%s: %s", name, qUtf8Printable(text.left(40))) << text << isDate;
+    };
+    rows("day, name, year", true,
+         {u"01 Şubat 2003"_s, u"1/şub/2003"_s, u"1-Şubat-2003"_s, u"1.ŞUBAT.2003"_s, u"1Şubat2003"_s,
+          u"1 Şubat, 2003"_s, u"31 ARALIK 9999"_s, u"1 oca 100"_s});
+    rows("name first", true, {u"Şubat 1, 2003"_s, u"Şub. 1 2003"_s});
+    rows("day of the week", true, {u"01 Şubat 2003 Cumartesi"_s, u"2 ŞUBAT 2003, PAZAR"_s});
+    rows("day of the week", false,
+         {u"Cumartesi, 1 Şubat 2003"_s, u"1 Şubat 2003 Pazar"_s, u"Pazar"_s, u"1.2.2003 Cumartesi"_s,
+          u"Şubat 2003 Cumartesi"_s});
+    rows("numbers", true,
+         {u"01.02.2003"_s, u"1/2/2003"_s, u"1-2-2003"_s, u"1 2 2003"_s, u"1.2/2003"_s, u"02.13.2003"_s,
+          u"01.02.03"_s, u"32.1.03"_s});
+    rows("numbers", false,
+         {u"13.13.2003"_s, u"1.2.3.4"_s, u"1,2,2003"_s, u"1.2.0099"_s, u"0.1.2003"_s, u"1.0.2003"_s,
+          u"001.2.2003"_s, u"1.2.12003"_s, u"01022003"_s});
+    rows("year first", true, {u"2003-02-01"_s, u"2003.02.01"_s, u"2003/2/1"_s, u"2003 Şubat 1"_s});
+    rows("year first", false, {u"2003-02-30"_s, u"2003-13-02"_s});
+    rows("blanks", true,
+         {u"  1   Şubat \t 2003 "_s, u"1 . 2 . 2003"_s, QString(100'000, u' ') + u"Mart 2003"_s});
+    rows("separators", false,
+         {u"1..2.2003"_s, u"1.2.2003."_s, u".1.2.2003"_s, u"1:2:2003"_s, u"Mart,, 2003"_s});
+    rows("month and year", true,
+         {u"Şubat 2003"_s, u"KASIM 2003"_s, u"2003 Mart"_s, u"Mart, 2003"_s, u"Mart 03"_s, u"02.2003"_s,
+          u"2/2003"_s, u"2003-02"_s});
+    rows("month and year", false, {u"13.2003"_s, u"0.2003"_s, u"13.13"_s, u"2003 2004"_s});
+    rows("day and month", true, {u"1 Şubat"_s, u"Şubat 1"_s, u"29 Şubat"_s, u"27.8"_s, u"32 Ocak"_s});
+    rows("calendar", true, {u"29.02.2004"_s, u"29 Şubat 2000"_s, u"29 Şubat 01"_s, u"29.02.1600"_s});
+    rows("calendar", false,
+         {u"30 Şubat 2003"_s, u"29.02.2003"_s, u"29.02.1900"_s, u"32 Ocak 2003"_s, u"31 Nisan 2003"_s,
+          u"31.11.2003"_s});
+    rows("letters", false, {u"KASİM 2003"_s, u"Aralik 2003"_s, u"Haz\u0131ran 2003"_s, u"Şuba 2003"_s});
+    rows("no date", false,
+         {QString(), u" "_s, u"2003"_s, u"Şubat"_s, u"bahar"_s, u"2003 bahar"_s, u"1 Şubat 2003 günü"_s,
+          u"Şubat Mart 2003"_s, u"1 Şubat 2003 2"_s, u"\u0661.2.2003"_s, u"😀"_s, u"1 Şubat 2003 10:30"_s,
+          QString(100'000, u'1'), QString(100'000, u'ş')});
+    const QStringList months{u"Ocak"_s,   u"Şubat"_s,   u"Mart"_s,  u"Nisan"_s, u"Mayıs"_s, u"Haziran"_s,
+                             u"Temmuz"_s, u"Ağustos"_s, u"Eylül"_s, u"Ekim"_s,  u"Kasım"_s, u"Aralık"_s};
+    for (int i = 0; i < int(months.size()); ++i) {
+        const int days = QDate(2003, i + 1, 1).daysInMonth();
+        const QString capitals = BüyükHarfeÇevir(months[i]);
+        rows("last day", true,
+             {u"%1 %2 2003"_s.arg(days).arg(months[i]), u"%1 %2 2003"_s.arg(days).arg(capitals.left(3))});
+        rows("day after it", false, {u"%1 %2 2003"_s.arg(days + 1).arg(capitals)});
+    }
+}
+
+void TestText::dates()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isDate);
+    QCOMPARE(TürkçeTarihMi(text), isDate);
 }
 
 QTEST_APPLESS_MAIN(TestText)
