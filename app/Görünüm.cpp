@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWidget>
 
 #include <array>
 #include <cmath>
@@ -60,6 +61,14 @@ QColor OkunurYazıRengi(const QColor& zemin)
     // Weights of ITU-R BT.601, which is what the eye's own weighting comes to.
     const double ışıklılık = 0.299 * zemin.red() + 0.587 * zemin.green() + 0.114 * zemin.blue();
     return ışıklılık < 96 ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+void ZeminVer(QWidget& kontrol, const QColor& zemin)
+{
+    QPalette palet = kontrol.palette();
+    palet.setColor(QPalette::Base, zemin);
+    palet.setColor(QPalette::Text, OkunurYazıRengi(zemin));
+    kontrol.setPalette(palet);
 }
 
 QFont FormYazıTipi()

@@ -5,6 +5,8 @@
 #include <QFont>
 #include <QPalette>
 
+class QWidget;
+
 /// 0x00BBGGRR, or 0x80000000 plus the number of a system colour.
 using Renk = quint32;
 
@@ -21,6 +23,9 @@ Renk ZeminRengi(qint16 sıra);
 QColor EkranRengi(Renk renk, const QPalette& palet);
 /// Black or white, whichever reads better on the background.
 QColor OkunurYazıRengi(const QColor& zemin);
+
+/// Gives a field a background, and letters in black or white, whichever reads better on it.
+void ZeminVer(QWidget& kontrol, const QColor& zemin);
 
 /// The font of the windows' own controls; its sizes are laid out for it.
 QFont FormYazıTipi();

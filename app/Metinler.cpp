@@ -45,3 +45,8 @@ QString SadeMetin(int numara)
         metin.chop(1);
     return metin;
 }
+
+QString ToplamYazısı(qint64 sayı)
+{
+    return Metin(150) + u' ' + QString::number(sayı);
+}

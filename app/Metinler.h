@@ -9,3 +9,6 @@ QString Metin(int numara);
 
 /// The text as a screen reader should say it: without mnemonic marks and trailing dots.
 QString SadeMetin(int numara);
+
+/// The line under a list that says how many entries it has.
+QString ToplamYazısı(qint64 sayı);

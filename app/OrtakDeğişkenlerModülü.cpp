@@ -11,6 +11,9 @@ std::optional<DBEngine> Motor;
 std::optional<Workspace> ÇalışmaAlanı;
 std::optional<Database> Veritabanı;
 
+QString DeğiştirilenYazarAdı;
+QString DeğiştirilenMakaleBaşlığı;
+
 QString MakaleYazıTipi;
 qint16 YazıBoyutuSırası = 2;
 qint16 ZeminRengiSırası = 0;
@@ -32,6 +35,12 @@ void KitaplığıBırak()
     Veritabanı.reset();
     ÇalışmaAlanı.reset();
     Motor.reset();
+}
+
+Recordset MakaleyiAç(const QString& başlık)
+{
+    return Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='") +
+                                     başlık + u'\'');
 }
 
 QString SürümMetni()

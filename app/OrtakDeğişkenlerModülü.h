@@ -25,6 +25,14 @@ void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir = {});
 /// Lets go of the library and its lock.
 void KitaplığıBırak();
 
+/// The first article with this title, as it stands between apostrophes in the query; no row where none has
+/// it.
+Recordset MakaleyiAç(const QString& başlık);
+
+/// What the window for changing an article saved; emptied before it is shown.
+extern QString DeğiştirilenYazarAdı;
+extern QString DeğiştirilenMakaleBaşlığı;
+
 /// How the article text is shown; read when the main window loads, changed by the settings window.
 extern QString MakaleYazıTipi;
 extern qint16 YazıBoyutuSırası; ///< index for YazıBoyutu

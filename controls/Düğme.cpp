@@ -1,7 +1,32 @@
 #include "controls/Düğme.h"
 
+#include <QKeyEvent>
+#include <QShortcutEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+
+Düğme::Düğme(QWidget* üst) : QPushButton(üst)
+{
+    setAutoDefault(false);
+}
+
+bool Düğme::event(QEvent* olay)
+{
+    if (olay->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(olay)->isAmbiguous()) {
+        setFocus(Qt::ShortcutFocusReason);
+        if (!hasFocus())
+            return true;
+    }
+    return QPushButton::event(olay);
+}
+
+void Düğme::keyPressEvent(QKeyEvent* olay)
+{
+    if (olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(olay);
+}
 
 void Düğme::paintEvent(QPaintEvent*)
 {

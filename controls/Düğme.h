@@ -1,13 +1,18 @@
-// A push button whose caption goes on in a second line where it is too long for one.
+// The push button.
 #pragma once
 
 #include <QPushButton>
 
+/// Its caption goes on in a second line where it is too long for one. Enter presses the button that has the
+/// focus, and no other. A mnemonic takes the focus along, as the mouse does, so that the field that is left
+/// sees it go; where that field keeps the focus, nothing is pressed.
 class Düğme : public QPushButton
 {
 public:
-    using QPushButton::QPushButton;
+    explicit Düğme(QWidget* üst = nullptr);
 
 protected:
+    bool event(QEvent* olay) override;
+    void keyPressEvent(QKeyEvent* olay) override;
     void paintEvent(QPaintEvent* olay) override;
 };

@@ -42,6 +42,12 @@ public:
         metinler_ += yeni;
         endInsertRows();
     }
+    void çıkar(int sıra)
+    {
+        beginRemoveRows({}, sıra, sıra);
+        metinler_.removeAt(sıra);
+        endRemoveRows();
+    }
     void boşalt()
     {
         beginResetModel();
@@ -103,6 +109,16 @@ void ListeKutusu::AddItems(const QStringList& metinler)
     model_->ekle(metinler);
 }
 
+void ListeKutusu::RemoveItem(int sıra)
+{
+    if (sıra < 0 || sıra >= ListCount())
+        return;
+    if (sıra == ListIndex()) // else the view would go on to a neighbour
+        ListIndex(-1);
+    const QScopedValueRollback sessiz(sessiz_, true);
+    model_->çıkar(sıra);
+}
+
 void ListeKutusu::Clear()
 {
     sessiz_ = true;
@@ -110,13 +126,26 @@ void ListeKutusu::Clear()
     sessiz_ = false;
 }
 
-int ListeKutusu::ÖnekleBul(QStringView baş) const
+// The entries are in normal form C; a pasted text need not be.
+template<class Uyar> int ListeKutusu::ilkUyan(QStringView metin, Uyar uyar) const
 {
     const QStringList& metinler = model_->metinler();
-    const QString aranan = baş.toString().normalized(QString::NormalizationForm_C);
-    const auto yer = std::find_if(metinler.begin(), metinler.end(),
-                                  [&aranan](const QString& metin) { return İleBaşlar(metin, aranan); });
+    const QString aranan = metin.toString().normalized(QString::NormalizationForm_C);
+    const auto yer =
+        std::find_if(metinler.begin(), metinler.end(), [&](const QString& öğe) { return uyar(öğe, aranan); });
     return yer == metinler.end() ? -1 : static_cast<int>(yer - metinler.begin());
+}
+
+void ListeKutusu::Text(const QString& metin)
+{
+    ListIndex(ilkUyan(metin, [](const QString& öğe, const QString& aranan) {
+        return öğe.size() == aranan.size() && İleBaşlar(öğe, aranan);
+    }));
+}
+
+int ListeKutusu::ÖnekleBul(QStringView baş) const
+{
+    return ilkUyan(baş, [](const QString& öğe, const QString& aranan) { return İleBaşlar(öğe, aranan); });
 }
 
 // The view's own search doesn't know Turkish letters.
@@ -149,6 +178,13 @@ void ListeKutusu::mousePressEvent(QMouseEvent* olay)
     // Only now, since the handler may let messages through: the view is done with this press.
     if (ListIndex() >= 0 && (ListIndex() != önceki || yine) && Click)
         Click();
+}
+
+void ListeKutusu::keyReleaseEvent(QKeyEvent* olay)
+{
+    QListView::keyReleaseEvent(olay);
+    if (KeyUp && !olay->isAutoRepeat())
+        KeyUp(olay->key());
 }
 
 // The view would make the first entry current; coming here with the Tab key must not choose anything.

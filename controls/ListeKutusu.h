@@ -21,6 +21,8 @@ public:
 
     /// The selected entry changed to another one, by hand or by code, or was pressed again.
     std::function<void()> Click;
+    /// A key was let go in the list; not fired by the key's repetition.
+    std::function<void(int tuş)> KeyUp;
 
     int ListCount() const;
     int ListIndex() const;
@@ -30,9 +32,13 @@ public:
 
     /// The selected entry, "" when there is none.
     QString Text() const;
+    /// Selects the first entry that equals the text without regard to case, or none.
+    void Text(const QString& metin);
     QString Item(int sıra) const;
 
     void AddItems(const QStringList& metinler);
+    /// Takes an entry away; where it was the selected one, none is selected then. Fires nothing.
+    void RemoveItem(int sıra);
     /// Empties the list; fires nothing.
     void Clear();
 
@@ -44,6 +50,7 @@ public:
 protected:
     void currentChanged(const QModelIndex& şimdiki, const QModelIndex& önceki) override;
     void mousePressEvent(QMouseEvent* olay) override;
+    void keyReleaseEvent(QKeyEvent* olay) override;
     void focusInEvent(QFocusEvent* olay) override;
     bool viewportEvent(QEvent* olay) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& yer,
@@ -51,6 +58,8 @@ protected:
 
 private:
     class Model;
+
+    template<class Uyar> int ilkUyan(QStringView metin, Uyar uyar) const;
 
     std::unique_ptr<Model> model_;
     QString aranan_;      // what was typed to find an entry

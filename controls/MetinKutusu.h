@@ -5,6 +5,10 @@
 
 #include <QLineEdit>
 
+/// A field's text without blanks at its ends; line breaks and other control characters, which only pasting
+/// brings in, count as blanks.
+QString KırpıkSatır(QString satır);
+
 class MetinKutusu : public TuşOlaylı<QLineEdit>
 {
 public:
@@ -15,4 +19,6 @@ public:
 
     QString Text() const { return text(); }
     void Text(const QString& metin) { setText(metin); }
+
+    QString KırpıkText() const { return KırpıkSatır(Text()); }
 };

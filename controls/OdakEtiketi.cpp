@@ -1,11 +1,22 @@
 #include "controls/OdakEtiketi.h"
 
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
 
-void OdakEtiketi::Bağla(QWidget& kontrol, QLabel& etiket, Giriş giriş)
+namespace {
+
+QLineEdit& yazıKutusu(QWidget& kontrol)
 {
-    bağlar_.insert(&kontrol, {&etiket, giriş});
+    const auto* liste = qobject_cast<QComboBox*>(&kontrol);
+    return liste ? *liste->lineEdit() : static_cast<QLineEdit&>(kontrol);
+}
+
+} // namespace
+
+void OdakEtiketi::Bağla(QWidget& kontrol, QLabel& etiket, Giriş giriş, std::function<void()> çıkış)
+{
+    bağlar_.insert(&kontrol, {&etiket, giriş, std::move(çıkış)});
     kontrol.installEventFilter(this);
 }
 
@@ -18,14 +29,14 @@ bool OdakEtiketi::eventFilter(QObject* nesne, QEvent* olay)
         const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
         if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason &&
             neden != Qt::MenuBarFocusReason)
-            odakGitti();
+            Ayrıl();
     }
     return false;
 }
 
 void OdakEtiketi::odakGeldi(QWidget& kontrol)
 {
-    odakGitti();
+    Ayrıl();
     odaklı_ = &kontrol;
     const Bağ& bağ = bağlar_[&kontrol];
     QPalette palet = bağ.etiket->palette();
@@ -34,11 +45,16 @@ void OdakEtiketi::odakGeldi(QWidget& kontrol)
     bağ.etiket->setPalette(palet);
     if (bağ.giriş == Giriş::TümünüSeç) // after the press that brought the focus has placed the caret
         QMetaObject::invokeMethod(
-            &kontrol, [&kontrol] { static_cast<QLineEdit&>(kontrol).selectAll(); }, Qt::QueuedConnection);
+            &kontrol, [&kontrol] { yazıKutusu(kontrol).selectAll(); }, Qt::QueuedConnection);
 }
 
-void OdakEtiketi::odakGitti()
+void OdakEtiketi::Ayrıl()
 {
-    if (QWidget* kontrol = std::exchange(odaklı_, nullptr))
-        bağlar_[kontrol].etiket->setPalette(QPalette());
+    QWidget* kontrol = std::exchange(odaklı_, nullptr);
+    if (!kontrol)
+        return;
+    const Bağ& bağ = bağlar_[kontrol];
+    bağ.etiket->setPalette(QPalette());
+    if (bağ.çıkış)
+        bağ.çıkış();
 }

@@ -26,8 +26,13 @@ void HarfBüyüsün(char16_t& kod)
     kod = BüyükHarf(kod);
 }
 
+void KutuSüzgeci(QWidget& kontrol, char16_t& kod)
+{
+    AdımAdım([&] { EnterSekmeOlsun(kontrol, kod); }, [&] { KesmeAksanOlsun(kod); });
+}
+
 void BüyükHarfliKutuSüzgeci(QWidget& kontrol, char16_t& kod)
 {
-    AdımAdım([&] { EnterSekmeOlsun(kontrol, kod); }, [&] { KesmeAksanOlsun(kod); },
-             [&] { HarfBüyüsün(kod); });
+    KutuSüzgeci(kontrol, kod);
+    AdımAdım([&] { HarfBüyüsün(kod); });
 }

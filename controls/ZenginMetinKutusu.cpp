@@ -1,5 +1,6 @@
 #include "controls/ZenginMetinKutusu.h"
 
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -8,6 +9,60 @@
 namespace {
 
 constexpr Renk İşaretRengi = 0x0000FF; // red
+
+/// Gives stretches of a text formats of their own, all in one edit: the layout then is told once.
+class TopluBiçimleme
+{
+public:
+    explicit TopluBiçimleme(QTextDocument& belge) : imleç_(&belge) { imleç_.beginEditBlock(); }
+    ~TopluBiçimleme() { imleç_.endEditBlock(); }
+    TopluBiçimleme(const TopluBiçimleme&) = delete;
+    TopluBiçimleme& operator=(const TopluBiçimleme&) = delete;
+
+    void Ver(int yer, int uzunluk, const QTextCharFormat& biçim)
+    {
+        imleç_.setPosition(yer);
+        imleç_.setPosition(yer + uzunluk, QTextCursor::KeepAnchor);
+        imleç_.mergeCharFormat(biçim);
+    }
+
+private:
+    QTextCursor imleç_;
+};
+
+QTextCharFormat ekranBiçimi(const KarakterBiçimi& biçim, const QColor& zemin)
+{
+    QTextCharFormat sonuç;
+    if (biçim.Kalın)
+        sonuç.setFontWeight(QFont::Bold);
+    if (biçim.İtalik)
+        sonuç.setFontItalic(true);
+    if (biçim.AltıÇizili)
+        sonuç.setFontUnderline(true);
+    if (biçim.ÜstüÇizili)
+        sonuç.setFontStrikeOut(true);
+    if (biçim.YarımNokta > 0)
+        sonuç.setFontPointSize(biçim.YarımNokta / 2.0);
+    if (!biçim.YazıTipi.isEmpty())
+        sonuç.setFontFamilies({biçim.YazıTipi});
+    if (biçim.Renk != KarakterBiçimi::Renksiz) {
+        const QColor renk = EkranRengi(biçim.Renk, {});
+        if (OkunurYazıRengi(renk) != OkunurYazıRengi(zemin)) // dark on dark could not be read
+            sonuç.setForeground(renk);
+    }
+    return sonuç;
+}
+
+// What the library refuses, and no text needs.
+QString nulSuz(QString metin)
+{
+    return metin.remove(QChar(u'\0'));
+}
+
+bool kırpılır(QChar harf)
+{
+    return harf == u' ';
+}
 
 } // namespace
 
@@ -26,7 +81,43 @@ QString ZenginMetinKutusu::Text() const
 void ZenginMetinKutusu::Text(const QString& metin)
 {
     setCurrentCharFormat({}); // else the marks at the caret would colour all of the new text
-    setPlainText(metin);
+    setPlainText(nulSuz(metin));
+    biçimli_ = false;
+}
+
+void ZenginMetinKutusu::Göster(const BiçimliMetin& belge)
+{
+    Text(belge.Metin);
+    biçimli_ = !belge.Parçalar.isEmpty();
+    TopluBiçimleme biçimleme(*document());
+    for (const BiçimliParça& parça : belge.Parçalar)
+        biçimleme.Ver(parça.Yer, parça.Uzunluk, ekranBiçimi(parça.Biçim, palette().color(QPalette::Base)));
+}
+
+void ZenginMetinKutusu::DüzMetneİndir()
+{
+    const QString metin = Text();
+    const auto ilk = std::find_if_not(metin.begin(), metin.end(), kırpılır);
+    const auto son = std::find_if_not(metin.rbegin(), std::reverse_iterator(ilk), kırpılır).base();
+    if (!biçimli_ && ilk == metin.begin() && son == metin.end())
+        return;
+    const auto baştan = static_cast<int>(ilk - metin.begin());
+    const int imleç = SelStart() - baştan;
+    Text(metin.mid(baştan, son - ilk));
+    SelStart(imleç);
+}
+
+void ZenginMetinKutusu::YalnızOkunur()
+{
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+// Only text comes in, whatever else the clipboard offers with it.
+void ZenginMetinKutusu::insertFromMimeData(const QMimeData* veri)
+{
+    if (veri->hasText())
+        textCursor().insertText(nulSuz(veri->text()), {});
+    ensureCursorVisible();
 }
 
 void ZenginMetinKutusu::SelStart(int yer)
@@ -51,15 +142,11 @@ void ZenginMetinKutusu::İşaretle(const QList<qsizetype>& yerler, qsizetype uzu
     QTextCharFormat işaret;
     işaret.setForeground(EkranRengi(İşaretRengi, palette()));
     işaret.setFontWeight(QFont::Bold);
-    // One edit for all: the layout then is told once.
-    QTextCursor imleç(document());
-    imleç.beginEditBlock();
-    for (const qsizetype yer : yerler) {
-        imleç.setPosition(static_cast<int>(yer));
-        imleç.setPosition(static_cast<int>(yer + uzunluk), QTextCursor::KeepAnchor);
-        imleç.mergeCharFormat(işaret);
+    {
+        TopluBiçimleme biçimleme(*document());
+        for (const qsizetype yer : yerler)
+            biçimleme.Ver(static_cast<int>(yer), static_cast<int>(uzunluk), işaret);
     }
-    imleç.endEditBlock();
 
     // The caret ends at the last one; the reader begins at the first.
     const int önce = verticalScrollBar()->value();
@@ -87,9 +174,5 @@ void ZenginMetinKutusu::FontSize(int nokta)
 
 void ZenginMetinKutusu::BackColor(Renk renk)
 {
-    QPalette palet = palette();
-    const QColor zemin = EkranRengi(renk, palet);
-    palet.setColor(QPalette::Base, zemin);
-    palet.setColor(QPalette::Text, OkunurYazıRengi(zemin));
-    setPalette(palet);
+    ZeminVer(*this, EkranRengi(renk, palette()));
 }

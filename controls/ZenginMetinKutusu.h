@@ -1,7 +1,8 @@
-// The rich-text box: shows an article's plain text and marks places in it.
+// The rich-text box: shows and takes an article's text, and marks places in it.
 #pragma once
 
 #include "app/Görünüm.h"
+#include "controls/BiçimliMetin.h"
 #include "controls/TuşSüzgeci.h"
 
 #include <QList>
@@ -19,6 +20,14 @@ public:
     QString Text() const;
     /// Replaces the whole text, without marks, and goes to its beginning.
     void Text(const QString& metin);
+
+    /// Replaces the whole text by one with formats.
+    void Göster(const BiçimliMetin& belge);
+    /// Makes the text plain and takes the blanks from its ends. The caret stays where nothing changes.
+    void DüzMetneİndir();
+
+    /// For showing only: the text can be selected but not changed.
+    void YalnızOkunur();
 
     /// Where the selection begins, or the caret stands.
     int SelStart() const { return textCursor().selectionStart(); }
@@ -38,6 +47,11 @@ public:
     /// The letters become black or white, whichever reads better on it.
     void BackColor(Renk renk);
 
+protected:
+    void insertFromMimeData(const QMimeData* veri) override;
+
 private:
     void imleciKoy(int yer);
+
+    bool biçimli_ = false; // some of the text may have a format of its own
 };

@@ -1,0 +1,211 @@
+#include "controls/MetinDosyası.h"
+
+#include "controls/KodSayfası.h"
+#include "controls/RtfOkuyucu.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <new>
+
+namespace {
+
+constexpr qsizetype EnKüçükTampon = 64 * 1024;
+// Some old word processors leave a control character here and there; compressed data without a NUL has one
+// in ten.
+constexpr qsizetype DenetimPayı = 50;
+constexpr char16_t DosSonu = 0x1A; // DOS programs end a text with it
+
+[[noreturn]] void at(const QString& neden)
+{
+    throw MetinOkumaHatası(neden);
+}
+
+[[noreturn]] void sistemHatası()
+{
+    switch (errno) {
+    case ENOENT:
+    case ENOTDIR:
+        at(QStringLiteral("Dosya bulunamadı."));
+    case EACCES:
+    case EPERM:
+        at(QStringLiteral("Bu dosyayı okuma izniniz yok."));
+    case EIO:
+        at(QStringLiteral("Disk okuma hatası."));
+    case ENOMEM:
+        throw std::bad_alloc();
+    default:
+        at(QStringLiteral("Dosya okunurken bir hata oluştu: %1.").arg(qt_error_string(errno)));
+    }
+}
+
+void boyuOlmalı(qint64 boy)
+{
+    if (boy > MetinDosyasıSınırı)
+        at(QStringLiteral("Dosya çok büyük; en çok %1 MB olabilir.").arg(MetinDosyasıSınırı / (1024 * 1024)));
+}
+
+void olağanDosyaOlmalı(const struct stat& durum)
+{
+    if (S_ISDIR(durum.st_mode))
+        at(QStringLiteral("Bu bir klasör, dosya değil."));
+    if (!S_ISREG(durum.st_mode))
+        at(QStringLiteral("Bu olağan bir dosya değil."));
+    boyuOlmalı(durum.st_size);
+}
+
+class AçıkDosya
+{
+public:
+    // Looked at before it is opened, since opening can wait or do something where it is a device; and again
+    // afterwards, in case it was replaced.
+    explicit AçıkDosya(const QByteArray& yol)
+    {
+        struct stat durum = {};
+        if (stat(yol.constData(), &durum) != 0)
+            sistemHatası();
+        olağanDosyaOlmalı(durum);
+        no_ = open(yol.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+        if (no_ < 0)
+            sistemHatası();
+    }
+    ~AçıkDosya()
+    {
+        if (no_ >= 0)
+            close(no_);
+    }
+    AçıkDosya(const AçıkDosya&) = delete;
+    AçıkDosya& operator=(const AçıkDosya&) = delete;
+
+    QByteArray oku() const
+    {
+        struct stat durum = {};
+        if (fstat(no_, &durum) != 0)
+            sistemHatası();
+        olağanDosyaOlmalı(durum);
+        QByteArray baytlar(durum.st_size + 1, Qt::Uninitialized); // one more, to see the end
+        qsizetype dolu = 0;
+        while (const qsizetype gelen = parçaOku(baytlar.data() + dolu, baytlar.size() - dolu)) {
+            dolu += gelen;
+            boyuOlmalı(dolu); // again, since it may grow, or not tell its size
+            if (dolu == baytlar.size())
+                baytlar.resize(std::max(EnKüçükTampon, 2 * dolu));
+        }
+        baytlar.truncate(dolu);
+        return baytlar;
+    }
+
+private:
+    qsizetype parçaOku(char* hedef, qsizetype boy) const
+    {
+        for (;;) {
+            const ssize_t gelen = read(no_, hedef, static_cast<std::size_t>(boy));
+            if (gelen >= 0)
+                return gelen;
+            if (errno != EINTR)
+                sistemHatası();
+        }
+    }
+
+    int no_ = -1;
+};
+
+QString windows1254(QByteArrayView baytlar)
+{
+    const KodSayfası sayfa(KodSayfası::Windows1254);
+    QString metin(baytlar.size(), Qt::Uninitialized);
+    std::transform(baytlar.begin(), baytlar.end(), metin.data(),
+                   [&sayfa](char bayt) { return QChar(sayfa.Harf(static_cast<unsigned char>(bayt))); });
+    return metin;
+}
+
+// Text of which nothing but the encoding is undone.
+QString harfleriAl(QByteArrayView baytlar)
+{
+    const auto imzalı = [baytlar](QByteArrayView imza) { return baytlar.startsWith(imza); };
+    const auto çöz = [baytlar](QStringDecoder::Encoding kod, qsizetype imzaBoyu) -> QString {
+        return QStringDecoder(kod, QStringDecoder::Flag::Stateless)(baytlar.sliced(imzaBoyu));
+    };
+    if (imzalı("\xFF\xFE"))
+        return çöz(QStringDecoder::Utf16LE, 2);
+    if (imzalı("\xFE\xFF"))
+        return çöz(QStringDecoder::Utf16BE, 2);
+    if (baytlar.contains('\0'))
+        at(QStringLiteral("Bu bir metin dosyası değil."));
+    if (imzalı("\xEF\xBB\xBF")) // it says so itself; wrong bytes don't make it Turkish Windows text
+        return çöz(QStringDecoder::Utf8, 3);
+    return QUtf8StringView(baytlar.data(), baytlar.size()).isValidUtf8() ? çöz(QStringDecoder::Utf8, 0)
+                                                                         : windows1254(baytlar);
+}
+
+bool satırSonu(char16_t harf)
+{
+    return (harf >= u'\n' && harf <= u'\r') || harf == 0x85 || harf == QChar::LineSeparator ||
+           harf == QChar::ParagraphSeparator;
+}
+
+// Makes all line ends "\n" and mends lone surrogates, in place; the text only becomes shorter.
+void düzelt(QString& metin)
+{
+    QChar* hedef = metin.data();
+    const QChar* son = metin.constData() + metin.size();
+    for (const QChar* yer = metin.constData(); yer != son; ++yer) {
+        const char16_t harf = yer->unicode();
+        if (satırSonu(harf)) {
+            if (harf == u'\r' && yer + 1 != son && yer[1] == u'\n')
+                ++yer;
+            *hedef++ = u'\n';
+        } else if (QChar::isHighSurrogate(harf) && yer + 1 != son && yer[1].isLowSurrogate()) {
+            *hedef++ = harf;
+            *hedef++ = *++yer;
+        } else {
+            *hedef++ = QChar::isSurrogate(harf) ? QChar(QChar::ReplacementCharacter) : QChar(harf);
+        }
+    }
+    metin.truncate(hedef - metin.constData());
+}
+
+void yazıOlmalı(const QString& metin)
+{
+    const auto denetim = std::count_if(metin.begin(), metin.end(), [](QChar harf) {
+        return (harf < u' ' && harf != u'\t' && !satırSonu(harf.unicode())) || harf == u'\x7F';
+    });
+    if (metin.contains(QChar::Null) || denetim > metin.size() / DenetimPayı)
+        at(QStringLiteral("Bu bir metin dosyası değil."));
+}
+
+} // namespace
+
+BiçimliMetin MetinÇöz(QByteArrayView baytlar)
+{
+    if (RtfMi(baytlar))
+        return RtfOku(baytlar);
+    BiçimliMetin sonuç{harfleriAl(baytlar), {}};
+    QString& metin = sonuç.Metin;
+    while (metin.endsWith(DosSonu))
+        metin.chop(1);
+    yazıOlmalı(metin);
+    düzelt(metin);
+    return sonuç;
+}
+
+BiçimliMetin MetinDosyasıOku(const QString& yol)
+{
+    QString neden;
+    try {
+        const QByteArray baytlar = AçıkDosya(QFile::encodeName(yol)).oku();
+        return MetinÇöz(baytlar);
+    } catch (const MetinOkumaHatası& hata) {
+        neden = hata.Açıklama();
+    } catch (const std::bad_alloc&) {
+        neden = QStringLiteral("Dosyayı okumaya bellek yetmiyor.");
+    }
+    throw MetinOkumaHatası(QStringLiteral("“%1” okunamadı: %2").arg(QFileInfo(yol).fileName(), neden));
+}

@@ -1,0 +1,51 @@
+// What holds for the text at one place of an RTF document.
+#pragma once
+
+#include "controls/RtfBaşlığı.h"
+#include "controls/RtfSözcükleri.h"
+#include "controls/RtfTabloları.h"
+
+/// Where text goes.
+enum class RtfHedefi : quint8
+{
+    Metin,
+    Atlanan,
+    İskelet,
+    YazıTipleri,
+    Renkler
+};
+
+/// What a group does when it ends.
+enum class RtfKapanışı : quint8
+{
+    Yok,
+    Dipnot,
+    Kutu
+};
+
+/// A group begins with its surrounding group's state, and its end restores that.
+struct RtfDurumu
+{
+    int YazıTipi = -1; ///< place in the font table; -1 for the default font
+    int YarımNokta = 0;
+    quint32 Renk = KarakterBiçimi::Renksiz;
+    quint8 Bayraklar = 0; ///< of RtfBayrağı
+    quint8 YedekBoyu = 1; ///< how many characters stand in for a Unicode one
+    RtfHedefi Hedef = RtfHedefi::Metin;
+    RtfHedefi İskelettekiHedef = RtfHedefi::Atlanan; ///< of the text deep in a frame
+    RtfKapanışı Kapanış = RtfKapanışı::Yok;
+    bool Yeni = true;      ///< nothing but \* was read in the group
+    bool Yıldızlı = false; ///< \* was
+    bool Tabloda = false;  ///< the paragraph stands in a table cell
+
+    /// Whether letters become text here.
+    bool Yazılıyor() const
+    {
+        return Hedef == RtfHedefi::Metin && (Bayraklar & (RtfBayrağı::Gizli | RtfBayrağı::Silinmiş)) == 0;
+    }
+    /// State at the beginning of a group within.
+    RtfDurumu İçGrup() const;
+    /// Applies a word for a format.
+    void Biçimle(const RtfTanımı& tanım, const RtfSözcüğü& söz, const RtfBaşlığı& başlık);
+    KarakterBiçimi Biçim(const RtfBaşlığı& başlık) const;
+};

@@ -1,0 +1,419 @@
+#include "controls/RtfOkuyucu.h"
+
+#include "controls/RtfBaşlığı.h"
+#include "controls/RtfDurumu.h"
+#include "controls/RtfSözcükleri.h"
+#include "controls/RtfTabloları.h"
+#include "controls/RtfÇıktısı.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr int EnDerinGrup = 1000; // word processors stay below a hundred
+constexpr int EnUzunYedek = 255;
+constexpr qsizetype EnBüyükBelge = qsizetype(1) << 30; // the text's positions are ints
+constexpr QByteArrayView İmza("{\\rtf");
+
+[[noreturn]] void bozuk()
+{
+    throw MetinOkumaHatası(QStringLiteral("RTF belgesi bozuk."));
+}
+
+// The signature's place; -1 when there is none.
+qsizetype imzaYeri(QByteArrayView baytlar)
+{
+    qsizetype yer = baytlar.startsWith(QByteArrayView("\xEF\xBB\xBF")) ? 3 : 0;
+    while (yer < baytlar.size() && QByteArrayView(" \t\r\n\v\f").contains(baytlar[yer]))
+        ++yer;
+    return baytlar.sliced(yer).startsWith(İmza) ? yer : -1;
+}
+
+class Okuyucu
+{
+public:
+    explicit Okuyucu(QByteArrayView belge) : sözcükler_(belge) {}
+
+    BiçimliMetin oku();
+
+private:
+    bool işle(const RtfSözcüğü& söz); // false at the document's end
+    void grupAç();
+    void grupKapat();
+    void sözcük(const RtfSözcüğü& söz);
+    void yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz);
+    void biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz);
+    void başlık(const RtfTanımı& tanım, int değer);
+    void hedef(RtfEylemi eylem);
+    void simge(int işaret);
+    void unicode(int değer);
+    void düz(std::string_view baytlar);
+    void bayt(unsigned char bayt);
+    void çokBaytlı(unsigned char bayt);
+    void yarımHarf();
+    void harf(char16_t harf);
+    void biçimiBildir();
+
+    // Place of the font that letters are in.
+    int yazıTipi() const
+    {
+        return durum_.Hedef == RtfHedefi::YazıTipleri ? başlık_.YazılanYazıTipi() : durum_.YazıTipi;
+    }
+    const KodSayfası& kodSayfası();
+
+    RtfSözcükleri sözcükler_;
+    RtfÇıktısı çıktı_;
+    RtfDurumu durum_;
+    std::vector<RtfDurumu> dıştakiler_; // states of the groups around
+    bool biçimEski_ = false;
+    int atlanacak_ = 0; // characters that only stand in for a Unicode one
+
+    RtfBaşlığı başlık_;
+    const KodSayfası* kodSayfası_ = nullptr; // of the present font; unknown until asked for
+    std::array<char, 4> yarım_{};            // a letter's first bytes
+    std::size_t yarımBoyu_ = 0;
+};
+
+BiçimliMetin Okuyucu::oku()
+{
+    while (işle(sözcükler_.Sonraki())) {
+    }
+    return çıktı_.Bitir();
+}
+
+bool Okuyucu::işle(const RtfSözcüğü& söz)
+{
+    const bool yazı = söz.Tür == RtfTürü::Düz || söz.Tür == RtfTürü::Bayt;
+    if (yarımBoyu_ > 0 && !yazı)
+        yarımHarf();
+    switch (söz.Tür) {
+    case RtfTürü::Son:
+        if (çıktı_.Boş() && durum_.Hedef != RtfHedefi::Metin)
+            bozuk();
+        while (!dıştakiler_.empty())
+            grupKapat();
+        return false;
+    case RtfTürü::GrupBaşı:
+        grupAç();
+        return true;
+    case RtfTürü::GrupSonu:
+        grupKapat();
+        return !dıştakiler_.empty();
+    case RtfTürü::Sözcük:
+        sözcük(söz);
+        return true;
+    case RtfTürü::Simge:
+        simge(söz.Değer);
+        return true;
+    case RtfTürü::Bayt:
+    case RtfTürü::Düz:
+        break;
+    }
+    durum_.Yeni = false;
+    if (durum_.Hedef == RtfHedefi::Atlanan)
+        return true;
+    if (söz.Tür == RtfTürü::Düz)
+        düz(söz.Ad);
+    else if (atlanacak_ > 0)
+        --atlanacak_;
+    else
+        bayt(static_cast<unsigned char>(söz.Değer));
+    return true;
+}
+
+void Okuyucu::grupAç()
+{
+    if (dıştakiler_.size() >= EnDerinGrup)
+        bozuk();
+    durum_.Yeni = false;
+    dıştakiler_.push_back(durum_);
+    durum_ = durum_.İçGrup();
+    atlanacak_ = 0;
+}
+
+void Okuyucu::grupKapat()
+{
+    if (durum_.Kapanış == RtfKapanışı::Dipnot)
+        çıktı_.DipnotSonu();
+    else if (durum_.Kapanış == RtfKapanışı::Kutu)
+        çıktı_.SatırBaşı();
+    durum_ = dıştakiler_.back();
+    dıştakiler_.pop_back();
+    atlanacak_ = 0;
+    biçimEski_ = true;
+    kodSayfası_ = nullptr;
+}
+
+void Okuyucu::sözcük(const RtfSözcüğü& söz)
+{
+    if (durum_.Hedef == RtfHedefi::Atlanan) { // only raw bytes could be taken for something else
+        if (söz.Ad == "bin" && !sözcükler_.Atla(std::max(söz.Değer, 0)))
+            bozuk();
+        return;
+    }
+    const RtfTanımı* tanım = RtfTanımıBul(söz.Ad);
+    const bool yıldızlı = std::exchange(durum_.Yıldızlı, false);
+    const bool başta = std::exchange(durum_.Yeni, false);
+    if (tanım && tanım->Eylem == RtfEylemi::İkili && !sözcükler_.Atla(std::max(söz.Değer, 0)))
+        bozuk();
+    if (atlanacak_ > 0) {
+        --atlanacak_;
+        return;
+    }
+    if (tanım && HedefMi(tanım->Eylem)) {
+        // Amid the document's own group a destination would swallow the rest.
+        if (başta || dıştakiler_.size() > 1)
+            hedef(tanım->Eylem);
+    } else if (yıldızlı) {
+        durum_.Hedef = RtfHedefi::Atlanan;
+    } else if (tanım && tanım->Eylem <= RtfEylemi::Unicode) {
+        yapı(*tanım, söz);
+    } else if (tanım && tanım->Eylem <= RtfEylemi::TabloDerinliği) {
+        biçim(*tanım, söz);
+    } else if (tanım) {
+        başlık(*tanım, söz.Değer);
+    }
+}
+
+void Okuyucu::yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz)
+{
+    if (tanım.Eylem == RtfEylemi::Unicode) {
+        if (söz.Değerli)
+            unicode(söz.Değer);
+        return;
+    }
+    if (tanım.Eylem == RtfEylemi::Harf) {
+        harf(static_cast<char16_t>(tanım.Değer));
+        return;
+    }
+    if (durum_.Hedef != RtfHedefi::Metin)
+        return;
+    switch (tanım.Eylem) {
+    case RtfEylemi::Hücre:
+        biçimiBildir();
+        çıktı_.Hücre();
+        break;
+    case RtfEylemi::Satır:
+    case RtfEylemi::İçSatır:
+        biçimiBildir();
+        çıktı_.TabloSatırı(tanım.Eylem == RtfEylemi::İçSatır);
+        break;
+    default:
+        if (durum_.Yazılıyor()) {
+            biçimiBildir();
+            çıktı_.YeniSatır(durum_.Tabloda);
+        }
+    }
+}
+
+void Okuyucu::biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz)
+{
+    kodSayfası_ = nullptr;
+    if (tanım.Eylem == RtfEylemi::YazıTipi && durum_.Hedef == RtfHedefi::YazıTipleri) {
+        başlık_.YazıTipiBaşı(söz.Değer);
+        return;
+    }
+    durum_.Biçimle(tanım, söz, başlık_);
+    biçimEski_ = true;
+}
+
+void Okuyucu::başlık(const RtfTanımı& tanım, int değer)
+{
+    kodSayfası_ = nullptr;
+    if (tanım.Eylem == RtfEylemi::YedekBoyu)
+        durum_.YedekBoyu = static_cast<quint8>(std::clamp(değer, 0, EnUzunYedek));
+    else
+        başlık_.Sözcük(tanım, değer, durum_.Hedef == RtfHedefi::YazıTipleri);
+}
+
+void Okuyucu::hedef(RtfEylemi eylem)
+{
+    const bool iskelette = durum_.Hedef == RtfHedefi::İskelet;
+    switch (eylem) {
+    case RtfEylemi::Atlanan:
+        durum_.Hedef = RtfHedefi::Atlanan;
+        break;
+    case RtfEylemi::İskelet:
+        if (!iskelette)
+            durum_.İskelettekiHedef = std::exchange(durum_.Hedef, RtfHedefi::İskelet);
+        break;
+    case RtfEylemi::MetinKutusu:
+    case RtfEylemi::İskeletMetni:
+        if (iskelette)
+            durum_.Hedef = durum_.İskelettekiHedef;
+        if (eylem == RtfEylemi::MetinKutusu && durum_.Hedef == RtfHedefi::Metin) {
+            çıktı_.SatırBaşı();
+            durum_.Kapanış = RtfKapanışı::Kutu;
+        }
+        break;
+    case RtfEylemi::Dipnot:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            çıktı_.DipnotBaşı();
+            durum_.Kapanış = RtfKapanışı::Dipnot;
+        }
+        break;
+    case RtfEylemi::ListeMetni:
+        if (durum_.Hedef == RtfHedefi::Metin && !çıktı_.ListeMetniGerek())
+            durum_.Hedef = RtfHedefi::Atlanan;
+        break;
+    case RtfEylemi::YazıTipleri:
+    case RtfEylemi::Renkler:
+        durum_.Hedef = eylem == RtfEylemi::Renkler ? RtfHedefi::Renkler : RtfHedefi::YazıTipleri;
+        break;
+    default: // text as before
+        break;
+    }
+    kodSayfası_ = nullptr;
+}
+
+void Okuyucu::simge(int işaret)
+{
+    if (işaret == '*') {
+        durum_.Yıldızlı = durum_.Yeni;
+        return;
+    }
+    durum_.Yeni = false;
+    if (atlanacak_ > 0)
+        --atlanacak_;
+    else if (işaret == '~')
+        harf(QChar::Nbsp);
+    else if (işaret == '_')
+        harf(0x2011);
+}
+
+void Okuyucu::unicode(int değer)
+{
+    const int kod = değer < 0 ? değer + 0x10000 : değer;
+    if (kod < 0 || kod > 0x10FFFF) {
+        harf(QChar::ReplacementCharacter);
+    } else if (kod > 0xFFFF) {
+        harf(QChar::highSurrogate(static_cast<char32_t>(kod)));
+        harf(QChar::lowSurrogate(static_cast<char32_t>(kod)));
+    } else if ((kod & 0xFF00) == 0xF000 && başlık_.Simgesel(yazıTipi())) {
+        // So symbol fonts have their bytes in Unicode.
+        bayt(static_cast<unsigned char>(kod & 0xFF));
+    } else {
+        harf(static_cast<char16_t>(kod));
+    }
+    atlanacak_ = durum_.YedekBoyu;
+}
+
+void Okuyucu::düz(std::string_view baytlar)
+{
+    const std::size_t atlanan = std::min(static_cast<std::size_t>(atlanacak_), baytlar.size());
+    atlanacak_ -= static_cast<int>(atlanan);
+    baytlar.remove_prefix(atlanan);
+    const auto ascii = [](char bayt) { return static_cast<unsigned char>(bayt) < 0x80; };
+    while (!baytlar.empty()) {
+        if (yarımBoyu_ > 0 || !durum_.Yazılıyor() || !ascii(baytlar.front())) {
+            bayt(static_cast<unsigned char>(baytlar.front()));
+            baytlar.remove_prefix(1);
+            continue;
+        }
+        const auto son = std::find_if_not(baytlar.begin(), baytlar.end(), ascii);
+        const auto boy = static_cast<std::size_t>(son - baytlar.begin());
+        biçimiBildir();
+        çıktı_.Dizi(baytlar.substr(0, boy));
+        baytlar.remove_prefix(boy);
+    }
+}
+
+void Okuyucu::bayt(unsigned char bayt)
+{
+    if (yarımBoyu_ > 0) {
+        çokBaytlı(bayt);
+        return;
+    }
+    if (bayt < 0x80) {
+        harf(bayt);
+        return;
+    }
+    // The bullets of the usual symbol fonts.
+    if ((bayt == 0xB7 || bayt == 0xA7) && başlık_.Simgesel(yazıTipi())) {
+        harf(bayt == 0xB7 ? 0x2022 : 0x25AA);
+        return;
+    }
+    const KodSayfası& sayfa = kodSayfası();
+    if (sayfa.Boy(bayt) == 1)
+        harf(sayfa.Harf(bayt));
+    else
+        yarım_[yarımBoyu_++] = static_cast<char>(bayt);
+}
+
+void Okuyucu::çokBaytlı(unsigned char bayt)
+{
+    const KodSayfası& sayfa = kodSayfası();
+    yarım_[yarımBoyu_++] = static_cast<char>(bayt);
+    if (yarımBoyu_ < static_cast<std::size_t>(sayfa.Boy(static_cast<unsigned char>(yarım_[0]))))
+        return;
+    const QString harfler = sayfa.Harf({yarım_.data(), yarımBoyu_});
+    const auto baytlar = yarım_;
+    const std::size_t boy = std::exchange(yarımBoyu_, 0);
+    if (harfler.isEmpty()) { // those behind the first may be letters of their own
+        yarımHarf();
+        for (std::size_t i = 1; i < boy; ++i)
+            this->bayt(static_cast<unsigned char>(baytlar[i]));
+    }
+    for (const QChar h : harfler)
+        harf(h.unicode());
+}
+
+// A letter of several bytes breaks off.
+void Okuyucu::yarımHarf()
+{
+    yarımBoyu_ = 0;
+    harf(QChar::ReplacementCharacter);
+}
+
+void Okuyucu::harf(char16_t harf)
+{
+    switch (durum_.Hedef) {
+    case RtfHedefi::Metin:
+        if (durum_.Yazılıyor() && harf != 0) {
+            biçimiBildir();
+            çıktı_.Harf(harf);
+        }
+        break;
+    case RtfHedefi::YazıTipleri:
+        başlık_.YazıTipiHarfi(harf);
+        break;
+    case RtfHedefi::Renkler:
+        if (harf == u';')
+            başlık_.RenkSonu();
+        break;
+    case RtfHedefi::Atlanan:
+    case RtfHedefi::İskelet:
+        break;
+    }
+}
+
+void Okuyucu::biçimiBildir()
+{
+    if (std::exchange(biçimEski_, false))
+        çıktı_.Biçimle(durum_.Biçim(başlık_));
+}
+
+const KodSayfası& Okuyucu::kodSayfası()
+{
+    if (!kodSayfası_)
+        kodSayfası_ = &başlık_.KodSayfasıBul(yazıTipi());
+    return *kodSayfası_;
+}
+
+} // namespace
+
+bool RtfMi(QByteArrayView baytlar)
+{
+    return imzaYeri(baytlar) >= 0;
+}
+
+BiçimliMetin RtfOku(QByteArrayView baytlar)
+{
+    const qsizetype yer = imzaYeri(baytlar);
+    if (yer < 0 || baytlar.size() > EnBüyükBelge)
+        bozuk();
+    return Okuyucu(baytlar.sliced(yer)).oku();
+}

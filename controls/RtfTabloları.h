@@ -1,0 +1,85 @@
+// What the words of RTF mean to a reader of text. The words and character sets are those of RTF 1.9.1 as
+// Microsoft published it.
+#pragma once
+
+#include <QtGlobal>
+
+#include <string_view>
+
+enum class RtfEylemi : quint8
+{
+    // Letters and structure; these give text.
+    Harf,      ///< the value is a UTF-16 unit
+    YeniSatır, ///< end of a paragraph, line, column, page or section
+    Hücre,     ///< end of a table cell
+    Satır,     ///< end of a table row
+    İçSatır,   ///< the same in a table within a cell
+    Unicode,
+    // Formats.
+    Bayrak,    ///< sets a bit of RtfBayrağı, or clears it where the number is 0
+    BayrakSil, ///< clears a bit
+    YazıTipi,
+    Boy,
+    Renk,
+    HarfBiçimiSıfırla,
+    ParagrafBiçimiSıfırla,
+    Tabloda, ///< the paragraph belongs to a table
+    TabloDerinliği,
+    // Header.
+    KodSayfası, ///< the value is the page
+    AnsiKodSayfası,
+    VarsayılanYazıTipi,
+    KarakterKümesi,
+    YazıTipiKodSayfası,
+    RenkBileşeni, ///< the value is 0 for red, 1 for green, 2 for blue
+                  // Bytes.
+    YedekBoyu,    ///< how many characters stand in for a Unicode one
+    İkili,
+    // Destinations, from here on.
+    Atlanan,
+    MetinHedefi,  ///< as if it were no destination
+    İskelet,      ///< holds text only deeper inside
+    İskeletMetni, ///< the text in one
+    MetinKutusu,  ///< the same, on lines of its own
+    Dipnot,
+    ListeMetni,
+    YazıTipleri,
+    Renkler,
+};
+
+inline bool HedefMi(RtfEylemi eylem)
+{
+    return eylem >= RtfEylemi::Atlanan;
+}
+
+struct RtfBayrağı
+{
+    enum : quint8
+    {
+        Kalın = 1,
+        İtalik = 2,
+        AltıÇizili = 4,
+        ÜstüÇizili = 8,
+        Gizli = 16,
+        Silinmiş = 32
+    };
+};
+
+struct RtfTanımı
+{
+    RtfEylemi Eylem;
+    int Değer = 0;
+};
+
+/// The meaning of a word without its backslash; nullptr for one that says nothing about the text.
+const RtfTanımı* RtfTanımıBul(std::string_view ad);
+
+/// Code pages that a font may have beside the real ones.
+struct RtfKodSayfası
+{
+    static constexpr int Belgenin = 0;
+    static constexpr int Simgesel = 42;
+};
+
+/// The code page of a font's character set.
+int RtfKümeKodSayfası(int küme);

@@ -1,0 +1,245 @@
+#include "fuzz/MetinDenetimi.h"
+
+#include "controls/MetinDosyası.h"
+#include "controls/RtfOkuyucu.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+class TestControlsRtf : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void texts_data();
+    void texts();
+    void fileErrors_data();
+    void fileErrors();
+    void mutations();
+    void floods_data();
+    void floods();
+};
+
+void TestControlsRtf::texts_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text"); // and behind a bar "place+length format" of each stretch
+    const auto plain = [](const char* name, const QByteArray& bytes, const QString& text) {
+        QTest::newRow(name) << bytes << text;
+    };
+    const auto row = [&plain](const char* name, const char* body, const QString& text) {
+        plain(name, "{\\rtf1" + QByteArray(body) + '}', text);
+    };
+    row("document's page", R"(\ansi\ansicpg1254 \'dd\'fe\'d0)", u"İşĞ"_s);
+    row("Western without a page", R"(\ansi \'fd)", u"ý"_s);
+    row("Western font in a Turkish document", R"(\ansicpg1254{\fonttbl{\f0\fcharset0 A;}}\f0 \'fd)",
+        u"ı|0+1 A"_s);
+    row("default font's page", R"(\deff2{\fonttbl{\f2\fcharset204 A;}}\'cf\'f0)", u"Пр"_s);
+    row("font of a group", R"({\fonttbl{\f1\fcharset161 A;}}{\f1 \'e1}\'e1)", u"αá|0+1 A"_s);
+    row("page of a font", R"({\fonttbl{\f1\cpg857 A;}}\f1\'a7)", u"ğ|0+1 A"_s);
+    row("Macintosh", R"(\mac\'8a)", u"ä"_s);
+    row("DOS", R"(\pca\'84)", u"ä"_s);
+    row("Japanese", "{\\fonttbl{\\f1\\fcharset128 A;}}\\f1 \\'93\xfa\x93\r\n\\'fa\\'83\\\\\\'83!",
+        u"日日ソ\uFFFD!|0+5 A"_s);
+    row("Chinese", R"({\fonttbl{\f1\fcharset134 A;}{\f2\fcharset136 B;}}\f1\'c4\'e3\f2\'a7A)",
+        u"你你|0+1 A,1+1 B"_s);
+    row("Korean", R"({\fonttbl{\f1\fcharset129 A;}{\f2\fcharset130 B;}}\f1\'b0\'a1\f2\'88\'61)",
+        u"가가|0+1 A,1+1 B"_s);
+    row("UTF-8", "\\ansicpg65001 \xe2\x82\xac\xe2(\xe2\x82", u"€\uFFFD(\uFFFD"_s);
+    row("Unicode", R"(\u351?\u-3937\'3f\u128512?\u-10179?\u-8704?)", u"ş\xF09F😀😀"_s);
+    row("lone surrogates", R"(\u-10179?a\u-8704?\u0?)", u"\uFFFDa\uFFFD"_s);
+    row("stand-ins", R"(\u305\par{\uc2\u305\'93\'fa\u305 {x}}\uc0\u305y\uc3\u305\bin2 }{\-zt)",
+        u"ıııxıyıt"_s);
+    row("both forms", R"({\upr{eski{x}}{\*\ud{yeni}}}z)", u"yeniz"_s);
+    row("signs", R"(a\~b\-c\_\emdash\endash\bullet\lquote\rdblquote\tab\{\}\\)",
+        u"a\u00A0bc\u2011—–•‘”\t{}\\"_s);
+    row("breaks", "a\\par b\\line\\page\\sect\\column c\\\r\nd\r\ne\nf", u"a\nb\n\n\n\nc\ndef"_s);
+    row("dropped", R"({\info{\title t}}{\header h}{\*\ne x}{\pict 00}{\v v}{\deleted d}{\revised r}{\xe x})",
+        u"r"_s);
+    row("field", R"(a{\field{\*\fldinst{PAGE}}{\fldrslt b}}c)", u"abc"_s);
+    row("object",
+        R"(a{\object{\*\objdata 0102}{\result b}}{\shp{\*\shpinst{\sp{\sn n}}{\shptxt c}}{\shprslt c}}d)",
+        u"ab\nc\nd"_s);
+    row("list", R"({\listtext\u8226?\tab}{\pntext 1}a\par{\pntext 2.\tab}b)", u"•\ta\n2.\tb"_s);
+    row("list in a cell", R"(\intbl{\listtext 1.}a\par{\listtext 2.}b\cell\row)", u"1.a 2.b\n"_s);
+    row("symbol font", R"({\fonttbl{\f3\fcharset2 Symbol;}}\f3\'b7\u-3913?)", u"••|0+2 Symbol"_s);
+    row("table", R"(\intbl a\cell b\par c\cell\row\intbl\cell\cell\cell\row\pard d)", u"a\tb c\n\t\t\nd"_s);
+    row("inner table",
+        R"(\intbl a\cell\itap2 b\nestcell c\nestcell{\*\nesttableprops\nestrow}{\nonesttables\par}\itap1\cell\row\pard d)",
+        u"a\tb\tc\nd"_s);
+    row("footnotes", R"(a{\footnote\chftn  b\par c}.{\footnote})", u"a [b c]."_s);
+    row("binary", R"(a\bin3 }{}b\bin-1 c)", u"abc"_s);
+    row("open groups", "{\\b a{b", u"ab|0+2 b"_s);
+    row("surplus brace", "a}b", u"a"_s);
+    row("destination amid the document", R"(a\footer b)", u"ab"_s);
+    row("numbers out of range", R"(\fs99999999999\f-99999999999\uc99999999999 a\u99999999999999 b)",
+        u"a\uFFFD|0+2 3276"_s);
+    row("none", R"(\deff0{\fonttbl{\f0 A;}}a\b\b0 b\cf0 c)", u"abc"_s);
+    row("groups", R"(a{\b b{\i c}}{\b d}e)", u"abcde|1+1 b,2+1 bi,3+1 b"_s);
+    row("lines", R"(\ul a\ulnone\strike b\strike0\uldb c\ul0 d\ulw\striked1 e\plain f)",
+        u"abcdef|0+1 u,1+1 s,2+1 u,4+1 us"_s);
+    row("colours", R"({\colortbl;\red255\green128;\blue999;}\cf1 a\cf2 b\cf3 c\cf0 d)",
+        u"abcd|0+1 #80ff,1+1 #ff0000"_s);
+    row("size", R"(\fs20 a{\fs0\fs48 b}\fs-1 c\fs9999 d)", u"abcd|0+1 20,1+1 48,2+1 20,3+1 3276"_s);
+    row("fonts", R"({\fonttbl\f0 Serif;{\f7\fcharset162{\*\falt x}Sans\'fe Tur;}}\f7 a\f0 b\f9 c)",
+        u"abc|0+1 Sansş,1+1 Serif"_s);
+    row("not in dropped text", R"({\*\ne\b x}a{\b}\b\pard b)", u"ab|1+1 b"_s);
+    plain("empty", "", u""_s);
+    plain("UTF-8", "ığ€😀", u"ığ€😀"_s);
+    plain("UTF-8 with mark and a wrong byte", "\xef\xbb\xbfığ\xff", u"ığ\uFFFD"_s);
+    plain("Windows-1254", "\xdd\xfe\x85", u"İş…"_s);
+    plain("UTF-8 cut short is none", "\xc4\xb1\xc4", u"Ä±Ä"_s);
+    plain("UTF-16, low byte first", QByteArray("\xff\xfe\x31\x01\r\0\n\0\x3d\xd8", 10), u"ı\n\uFFFD"_s);
+    plain("UTF-16, high byte first", QByteArray("\xfe\xff\x01\x31\x20\x28\xdc\0", 8), u"ı\n\uFFFD"_s);
+    plain("line ends", "a\rb\nc\r\nd\n\re\ff\u2028g\u2029h", u"a\nb\nc\nd\n\ne\nf\ng\nh"_s);
+    plain("end mark of DOS", "abc\r\n\x1a\x1a", u"abc\n"_s);
+    plain("no RTF", "x{\\rtf1 a}", u"x{\\rtf1 a}"_s);
+}
+
+void TestControlsRtf::texts()
+{
+    QFETCH(QByteArray, bytes);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"şiir.txt"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
+    const BiçimliMetin okunan = MetinDosyasıOku(file.fileName());
+    QStringList stretches;
+    for (const BiçimliParça& p : okunan.Parçalar) {
+        const KarakterBiçimi& b = p.Biçim;
+        const QString format = b.YazıTipi + u"b"_s.repeated(b.Kalın) + u"i"_s.repeated(b.İtalik) +
+                               u"u"_s.repeated(b.AltıÇizili) + u"s"_s.repeated(b.ÜstüÇizili) +
+                               (b.YarımNokta ? QString::number(b.YarımNokta) : QString()) +
+                               (b.Renk != b.Renksiz ? u'#' + QString::number(b.Renk, 16) : QString());
+        stretches += u"%1+%2 %3"_s.arg(p.Yer).arg(p.Uzunluk).arg(format);
+    }
+    QTEST(okunan.Metin + (stretches.isEmpty() ? QString() : u'|' + stretches.join(u',')), "text");
+}
+
+void TestControlsRtf::fileErrors_data()
+{
+    QTest::addColumn<QByteArray>("bytes"); // of a regular file; else the row's name says what there is
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const QByteArray& bytes, const QString& reason) {
+        QTest::newRow(name) << bytes << reason;
+    };
+    row("missing", {}, u"bulunamadı"_s);
+    row("folder", {}, u"klasör"_s);
+    row("pipe", {}, u"olağan bir dosya değil"_s);
+    row("2 GB", {}, u"çok büyük"_s);
+    row("no permission", {}, u"izniniz yok"_s);
+    row("NUL", QByteArray("abc\0d", 5), u"metin dosyası değil"_s);
+    row("control characters", "a\x01\x02", u"metin dosyası değil"_s);
+    row("too deep", "{\\rtf1 a" + QByteArray(1000, '{') + QByteArray(1001, '}'), u"bozuk"_s);
+    row("cut in a table", "\xef\xbb\xbf \r\n{\\rtf1{\\fonttbl{\\f0 Ari", u"bozuk"_s);
+    row("binary data too long", "{\\rtf1 a\\bin9 }", u"bozuk"_s);
+    row("the same where it is dropped", "{\\rtf1 a{\\pict\\bin9999999999 }}", u"bozuk"_s);
+}
+
+void TestControlsRtf::fileErrors()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, reason);
+    const QByteArray row = QTest::currentDataTag();
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"ağıt.rtf"_s));
+    if (row == "folder")
+        QVERIFY(QDir().mkdir(file.fileName()));
+    else if (row == "pipe")
+        QCOMPARE(mkfifo(QFile::encodeName(file.fileName()).constData(), 0600), 0);
+    else if (row != "missing")
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
+    if (row == "2 GB")
+        QVERIFY(file.resize(qint64(2) << 30));
+    const uid_t user = geteuid();
+    if (row == "no permission" && !(user == 0 ? seteuid(65534) == 0 : file.setPermissions({})))
+        QFAIL("can't do without the permission");
+    const auto back = qScopeGuard([user] { QVERIFY(user != 0 || seteuid(user) == 0); });
+    try {
+        MetinDosyasıOku(file.fileName());
+        QFAIL("was read");
+    } catch (const MetinOkumaHatası& hata) {
+        QVERIFY2(hata.Açıklama().contains(reason) && hata.Açıklama().contains(u"“ağıt.rtf”"_s), hata.what());
+    }
+}
+
+void TestControlsRtf::mutations()
+{
+    const QDir corpus(QStringLiteral(CORPUS_FOLDER));
+    QByteArrayList seeds;
+    for (const QString& name : corpus.entryList(QDir::Files, QDir::Name)) {
+        QFile file(corpus.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        seeds += file.readAll();
+    }
+    QVERIFY(seeds.size() > 15);
+    std::mt19937 random(20030); // NOLINT: the same numbers each time
+    const auto below = [&random](qsizetype n) { return n > 0 ? qsizetype(random() % quint32(n)) : 0; };
+    int readable = 0;
+    for (int i = 0; i < 6000; ++i) {
+        QByteArray bytes = seeds[i % seeds.size()];
+        const QByteArray other = seeds[below(seeds.size())];
+        for (qsizetype n = i < seeds.size() ? 0 : 1 + below(6); n > 0 && !bytes.isEmpty(); --n) {
+            if (below(2) == 0)
+                bytes[below(bytes.size())] ^= char(1 << below(8));
+            else if (below(3) == 0)
+                bytes.truncate(bytes.size() - below(bytes.size()) / 4);
+            else
+                bytes.insert(below(bytes.size()), other.mid(below(other.size()), below(40)));
+        }
+        try {
+            const char* fault = MetinKusuru(MetinÇöz(bytes));
+            QVERIFY2(!fault, fault + (": " + bytes.toPercentEncoding()));
+            ++readable;
+        } catch (const MetinOkumaHatası&) {
+        }
+    }
+    QVERIFY(readable > 3000);
+}
+
+void TestControlsRtf::floods_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QByteArray>("unit");
+    const auto row = [](const char* name, const char* head, const char* unit) {
+        QTest::newRow(name) << QByteArray(head) << QByteArray(unit);
+    };
+    row("formats", "", "{\\b a}{\\i b}");
+    row("sizes", "", "\\fs1a\\fs2b");
+    row("half letters", "{\\fonttbl\\f0\\fcharset128 A;}", "\x93{}");
+    row("fonts", "{\\fonttbl", "\\f12345;\\f");
+    row("colours", "{\\colortbl", ";");
+    row("groups", "\\fs9", "{}");
+    row("footnotes", "", "{\\footnote a}");
+    row("long word", "\\", "abcdefgh");
+    row("digits", "\\fs", "99999999");
+    row("Unicode", "", "\\u1\\uc9 ");
+}
+
+// Nothing grows faster than the input.
+void TestControlsRtf::floods()
+{
+    QFETCH(QByteArray, head);
+    QFETCH(QByteArray, unit);
+    const QByteArray body = head + unit.repeated((1 << 20) / unit.size());
+    QElapsedTimer time;
+    time.start();
+    const BiçimliMetin text = RtfOku("{\\rtf1" + body + "}}");
+    QVERIFY(time.elapsed() < 5000); // a hundred times what it takes without sanitizers
+    QVERIFY(!MetinKusuru(text));
+    QVERIFY(text.Metin.capacity() * 2 + text.Parçalar.capacity() * qsizetype(sizeof(BiçimliParça)) <
+            20 * body.size());
+}
+
+QTEST_APPLESS_MAIN(TestControlsRtf)
+#include "test_controls_rtf.moc"
