@@ -5,6 +5,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "controls/Etiketler.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -22,11 +23,6 @@ constexpr int OlağanGenişlik = 12000;  // twips
 constexpr int OlağanYükseklik = 9000;
 constexpr double EnUzakKonum = 1000000; // twips; what a stored position may be at most
 constexpr double TamEkranDeğeri = 2;
-
-QString toplam(int sayı)
-{
-    return Metin(150) + u' ' + QString::number(sayı);
-}
 
 } // namespace
 
@@ -52,8 +48,8 @@ void AnaForm::kontrolleriKur()
         kontrol.setParent(üst ? üst : yüzey_);
     };
     adlandır(Altlık, QStringLiteral("Altlık"));
-    for (std::size_t i = 0; i < Etiket.size(); ++i)
-        adlandır(Etiket[i], QStringLiteral("Etiket%1").arg(i));
+    for (QLabel& etiket : Etiket)
+        etiket.setParent(yüzey_);
     adlandır(YazarListesi, QStringLiteral("YazarListesi"), &Altlık);
     adlandır(ToplamYazarSayısıEtiketi, QStringLiteral("ToplamYazarSayısıEtiketi"));
     adlandır(YazarBulKutusu, QStringLiteral("YazarBulKutusu"));
@@ -69,7 +65,7 @@ void AnaForm::kontrolleriKur()
     adlandır(YazdırKutusu, QStringLiteral("YazdırKutusu"));
 
     YazdırKutusu.hide();
-    MakaleMetniKutusu.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    MakaleMetniKutusu.YalnızOkunur();
     MakaleMetniKutusu.setContextMenuPolicy(Qt::PreventContextMenu);
     for (QLabel* etiket : {&ToplamYazarSayısıEtiketi, &ToplamMakaleSayısıEtiketi})
         etiket->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -115,20 +111,14 @@ void AnaForm::menüleriKur()
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe :
-         {&MakaleEkleMenüsü, &MakeleDeğiştirMenüsü, &MakaleSilMenüsü, &ReferansOluşturMenüsü,
-          &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü, &AyarlarMenüsü,
-          &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe : {&ReferansOluşturMenüsü, &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü,
+                         &WordeYapıştırMenüsü, &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü,
+                         &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
         öğe->setEnabled(false);
 }
 
 void AnaForm::sekmeSırasıKur()
 {
-    const std::array<QWidget*, 6> bağlılar = {&YazarListesi,    &YazarBulKutusu,    &MakaleListesi,
-                                              &MakaleBulKutusu, &MakaleMetniKutusu, &BulKutusu};
-    for (std::size_t i = 0; i < bağlılar.size(); ++i)
-        Etiket[i].setBuddy(bağlılar[i]);
-
     QWidget* önceki = &YazarListesi;
     for (QWidget* sonraki : std::initializer_list<QWidget*>{
              &YazarBulKutusu, &MakaleListesi, &MakaleBulKutusu, &MakaleMetniKutusu, &BulKutusu, &BulButonu,
@@ -143,6 +133,7 @@ void AnaForm::olaylarıBağla()
     YazarListesi.Click = [this] { YazarListesi_Click(); };
     MakaleListesi.Click = [this] { MakaleListesi_Click(); };
     bulmaOlaylarınıBağla();
+    menüOlaylarınıBağla();
     connect(&ÇıkışButonu, &QPushButton::clicked, this, &AnaForm::ÇıkışButonu_Click);
     connect(&Sınırla, &QTimer::timeout, this, &AnaForm::Sınırla_Timer);
     auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), this);
@@ -178,7 +169,8 @@ void AnaForm::Form_Load()
     görünümAyarlarınıOku();
     YazarListesiYükle();
     sonYazarıSeç();
-    toplamlarıYaz();
+    yazarToplamınıYaz();
+    makaleToplamınıYaz();
     YazarListesi.setFocus();
 }
 
@@ -201,11 +193,11 @@ void AnaForm::başlıklarıKoy()
     HatalarıBildirinMenüsü.setText(Metin(135));
     HakkındaMenüsü.setText(Metin(140));
 
+    const std::array<QWidget*, 6> bağlılar = {&YazarListesi,    &YazarBulKutusu,    &MakaleListesi,
+                                              &MakaleBulKutusu, &MakaleMetniKutusu, &BulKutusu};
     constexpr std::array<int, 6> etiketler = {145, 155, 160, 165, 170, 175};
-    for (std::size_t i = 0; i < etiketler.size(); ++i) {
-        Etiket[i].setText(Metin(etiketler[i]));
-        Etiket[i].buddy()->setAccessibleName(SadeMetin(etiketler[i]));
-    }
+    for (std::size_t i = 0; i < Etiket.size(); ++i)
+        EtiketiKur(Etiket[i], i, etiketler[i], *bağlılar[i]);
     BulButonu.setText(Metin(180));
     TemizleButonu.setText(Metin(185));
     TümündeBulButonu.setText(Metin(190));
@@ -245,6 +237,7 @@ void AnaForm::YazarListesiYükle()
         yazarlar.append(kayıtlar.Fields(u"YazarAdi").Value());
     YazarListesi.Clear();
     YazarListesi.AddItems(yazarlar);
+    yazarToplamınıYaz();
 }
 
 void AnaForm::sonYazarıSeç()
@@ -254,15 +247,14 @@ void AnaForm::sonYazarıSeç()
         YazarListesi.ListIndex(static_cast<int>(sıra));
 }
 
-void AnaForm::toplamlarıYaz()
+void AnaForm::yazarToplamınıYaz()
 {
-    ToplamYazarSayısıEtiketi.setText(toplam(YazarListesi.ListCount()));
-    makaleToplamınıYaz();
+    ToplamYazarSayısıEtiketi.setText(ToplamYazısı(YazarListesi.ListCount()));
 }
 
 void AnaForm::makaleToplamınıYaz()
 {
-    ToplamMakaleSayısıEtiketi.setText(toplam(MakaleListesi.ListCount()));
+    ToplamMakaleSayısıEtiketi.setText(ToplamYazısı(MakaleListesi.ListCount()));
 }
 
 void AnaForm::YazarListesi_Click()
@@ -277,7 +269,7 @@ void AnaForm::YazarListesi_Click()
         makaleToplamınıYaz();
     });
     if (!tamam)
-        makaleleriBoşalt();
+        MakaleleriBoşalt();
 }
 
 bool AnaForm::makaleListesiniDoldur(Recordset& kayıtlar)
@@ -302,8 +294,7 @@ bool AnaForm::makaleListesiniDoldur(Recordset& kayıtlar)
     return true;
 }
 
-// What is shown must belong to what is selected, also where it could not be read.
-void AnaForm::makaleleriBoşalt()
+void AnaForm::MakaleleriBoşalt()
 {
     ++doldurma_;
     MakaleListesi.Clear();
@@ -314,9 +305,7 @@ void AnaForm::makaleleriBoşalt()
 void AnaForm::MakaleListesi_Click()
 {
     const bool tamam = Olay("MakaleListesi_Click", [this] {
-        Recordset kayıtlar =
-            Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='") +
-                                      MakaleListesi.Text() + u'\'');
+        Recordset kayıtlar = MakaleyiAç(MakaleListesi.Text());
         if (kayıtlar.Eof()) {
             MakaleMetniKutusu.Text({});
             return;

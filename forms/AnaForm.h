@@ -18,6 +18,8 @@
 #include <array>
 #include <functional>
 
+class EkleFormu;
+
 /// Why the main window is asked to close.
 enum class KapanışNedeni
 {
@@ -57,6 +59,11 @@ public:
     /// Refills the author list from the library; an empty table leaves the list as it is.
     void YazarListesiYükle();
 
+    /// The title selected in the article list, "" when there is none.
+    QString SeçiliMakale() const { return MakaleListesi.Text(); }
+    /// Empties the article list and the text: what is shown must belong to what is selected.
+    void MakaleleriBoşalt();
+
     enum class Eksen
     {
         Yatay,
@@ -95,11 +102,10 @@ private:
     /// Fills the article list with the rows' titles and selects the first one, letting the window's
     /// messages through. @return false when a newer filling took over meanwhile
     bool makaleListesiniDoldur(Recordset& kayıtlar);
-    void makaleleriBoşalt();
     void makaleyiGöster(const QString& metin);
     /// Whether the article list holds what a search in all articles found.
     bool sonuçGörünümü() const { return !Altlık.isEnabled(); }
-    void toplamlarıYaz();
+    void yazarToplamınıYaz();
     void makaleToplamınıYaz();
 
     // Finding
@@ -121,6 +127,13 @@ private:
     void bulmaEtiketi(const QString& yazı);
     void bulmaDüğmeleri(bool açık);
     void yazarTarafı(bool açık);
+
+    // What the menus lead to
+    void menüOlaylarınıBağla();
+    void MakaleEkleMenüsü_Click();
+    void MakeleDeğiştirMenüsü_Click();
+    void MakaleSilMenüsü_Click();
+    void değişeniSeç();
 
     // Layout
     void Form_Resize();
@@ -160,9 +173,10 @@ private:
     QAction MenüÇizgisi2{this}, MenüÇizgisi3{this};
 
     OdakEtiketi odakEtiketi_;
-    QString sonuçYazarı_;    // author of the shown article in the result view
-    int doldurma_ = 0;       // number of the newest filling of the article list; an older one stops
-    bool soruluyor_ = false; // the exit question stands on the screen
-    bool bitti_ = false;     // the exit sequence has run
-    QSize yerleşen_;         // outer size in twips that the controls were last laid out for
+    EkleFormu* ekleFormu_ = nullptr; // while it is shown
+    QString sonuçYazarı_;            // author of the shown article in the result view
+    int doldurma_ = 0;               // number of the newest filling of the article list; an older one stops
+    bool soruluyor_ = false;         // the exit question stands on the screen
+    bool bitti_ = false;             // the exit sequence has run
+    QSize yerleşen_;                 // outer size in twips that the controls were last laid out for
 };

@@ -52,7 +52,7 @@ void AnaForm::YazarBulKutusu_Change()
     const int sıra = YazarListesi.ÖnekleBul(YazarBulKutusu.Text());
     YazarListesi.ListIndex(sıra);
     if (sıra < 0)
-        makaleleriBoşalt();
+        MakaleleriBoşalt();
 }
 
 void AnaForm::MakaleBulKutusu_Change()
@@ -185,7 +185,7 @@ void AnaForm::tümündeBul()
 
 void AnaForm::sonuçYok()
 {
-    makaleleriBoşalt();
+    MakaleleriBoşalt();
     bulmaEtiketi(Metin(220));
     BulKutusu.setFocus();
 }

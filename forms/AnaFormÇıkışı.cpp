@@ -7,6 +7,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "forms/EkleFormu.h"
 #include "store/MakaleKitaplığı.h"
 
 #include <QCloseEvent>
@@ -36,6 +37,10 @@ bool AnaForm::Form_QueryUnload(KapanışNedeni neden)
 {
     if (bitti_)
         return true;
+    if (ekleFormu_ && ekleFormu_->GirişDurumunda()) { // what is being entered would be lost
+        ÖneGetir();
+        return false;
+    }
     if (neden != KapanışNedeni::GörevYöneticisi && neden != KapanışNedeni::ÜstPencere) {
         if (soruluyor_) // one question at a time
             return false;

@@ -98,6 +98,52 @@ key Return
 check "aramadan sonra çıkılır" eventually ended
 check "bulunan makalenin yazarı seçilidir" setting "Son%20Yazar=6"
 
+# Adding from an RTF file, changing, deleting: the library is as before in the end.
+printf '{\\rtf1\\ansi\\ansicpg1254 {\\b K\\u305?\\'"'fe}"' geldi,\\par i\\'"'e7ten.}" >"$work/kis.rtf"
+menu() { key alt+m; key "$1"; sleep 0.2; } # menu MNEMONIC: an entry of the article menu
+types() { xdotool type --delay 30 "$1"; sleep 0.15; }
+holds() { dump | grep -F "KIŞ´IN" | grep -qF "$1"; }
+check "eklemek için açılır" start
+menu e
+check "ekleme penceresi açılır" eventually active_is "Listeye Makale Ekle..."
+key Return
+types "ali ığdır"; key Return
+types "kış'ın"; key Return
+types "van ili"; key Return
+types "2003 bahar"; key Tab
+check "tarih sorulur" eventually active_is Belgenar
+key Return
+eventually active_is "Listeye Makale Ekle..."
+key alt+o
+check "dosya sorulur" eventually active_is "Dosya Aç..."
+types "$work/kis.rtf"; key Return
+eventually active_is "Listeye Makale Ekle..."
+sleep 0.3
+key alt+e
+sleep 0.5
+kill -KILL "$program"
+wait "$program" 2>/dev/null
+check "öldürülse de eklenen makale kalır" holds "Kış geldi,\\niçten."
+check "yazılanlar düzeltilmiştir" holds '"ALİ IĞDIR", "MakaleBasligi": "KIŞ´IN", "YayimYeri": "Van İli", "YayimTarihi": "2003 Bahar"'
+sed -i 's/^Son%20Yazar=.*/Son%20Yazar=0/' "$settings"
+check "değiştirmek için açılır" start
+menu d
+check "değiştirme penceresi açılır" eventually active_is "Makaleyi Değiştir..."
+key Tab
+types "yaz"; key alt+e
+check "kaydedilince kapanır" eventually active_is "$caption"
+menu s
+check "silme penceresi açılır" eventually active_is "Listeden Makale Sil..."
+key alt+s
+check "silmek sorulur" eventually active_is Belgenar
+key Left; key Return
+eventually active_is "Listeden Makale Sil..."
+key Escape
+eventually active_is "$caption"
+kill -TERM "$program"
+eventually ended
+check "değiştirilen makale silinmiştir" same_library
+
 # Second start: at a stored place; a second instance only brings the first one forward.
 sed -i 's/^Tam%20Ekran=.*/Tam%20Ekran=0\nSol=1500\nUst=1200/' "$settings"
 check "yeniden açılır" start

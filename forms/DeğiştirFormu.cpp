@@ -1,0 +1,86 @@
+#include "forms/DeğiştirFormu.h"
+
+#include "app/HataPolitikaları.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "forms/AnaForm.h"
+
+namespace {
+
+// An imported title may be longer than what can be typed; it must not be cut.
+void sığdır(MetinKutusu& kutu, const QString& metin)
+{
+    kutu.setMaxLength(std::max(kutu.maxLength(), static_cast<int>(metin.size())));
+    kutu.Text(metin);
+    kutu.setCursorPosition(0);
+}
+
+} // namespace
+
+DeğiştirFormu::DeğiştirFormu(AnaForm& anaForm)
+    : MakaleGirişFormu(&anaForm, anaForm,
+                       {.Pencere = QStringLiteral("DeğiştirFormu"),
+                        .Başlık = 342,
+                        .Kaydet = QStringLiteral("KaydetDüğmesi"),
+                        .Vazgeç = QStringLiteral("VazgeçDüğmesi"),
+                        .Yapıştır = QStringLiteral("YapıştırDüğmesi"),
+                        .DosyaYükle = QStringLiteral("DosyaYükleDüğmesi"),
+                        .KaydetYazısı = 410,
+                        .VazgeçYazısı = 377})
+{
+    connect(&KaydetDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::KaydetDüğmesi_Click);
+    connect(&VazgeçDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::VazgeçDüğmesi_Click);
+    connect(&YapıştırDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::YapıştırDüğmesi_Click);
+    connect(&DosyaYükleDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::DosyaYükleDüğmesi_Click);
+    Form_Load();
+}
+
+void DeğiştirFormu::Form_Load()
+{
+    İlkHatadaBit([this] {
+        yazarlarıYükle(QStringLiteral("SELECT DISTINCT YazarAdi FROM Makaleler"));
+        Recordset kayıtlar = seçiliMakale();
+        YazarAdıListesi.Text(kayıtlar.Fields(u"YazarAdi").Value());
+        sığdır(MakaleBaşlığıKutusu, kayıtlar.Fields(u"MakaleBasligi").Value());
+        sığdır(YayımYeriKutusu, kayıtlar.Fields(u"YayimYeri").Value());
+        sığdır(YayımTarihiKutusu, kayıtlar.Fields(u"YayimTarihi").Value()); // "" where there is no date
+        MakaleMetniKutusu.Text(kayıtlar.Fields(u"MakaleMetni").Value());
+    });
+}
+
+Recordset DeğiştirFormu::seçiliMakale() const
+{
+    return Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM Makaleler WHERE MakaleBasligi= '") +
+                                     anaForm_.SeçiliMakale() + u'\'');
+}
+
+void DeğiştirFormu::KaydetDüğmesi_Click()
+{
+    İlkHatadaBit([this] {
+        if (!alanlarTamam())
+            return;
+        Recordset kayıtlar = seçiliMakale();
+        kayıtlar.Edit();
+        alanlarıYaz(kayıtlar);
+        kayıtlar.Update();
+        kayıtlar.Close();
+        anaForm_.YazarListesiYükle();
+        DeğiştirilenYazarAdı = YazarAdıListesi.Text();
+        DeğiştirilenMakaleBaşlığı = MakaleBaşlığıKutusu.Text();
+        accept();
+    });
+}
+
+void DeğiştirFormu::VazgeçDüğmesi_Click()
+{
+    reject();
+}
+
+void DeğiştirFormu::YapıştırDüğmesi_Click()
+{
+    panodanYapıştır();
+}
+
+void DeğiştirFormu::DosyaYükleDüğmesi_Click()
+{
+    dosyadanYükle();
+}

@@ -1,0 +1,26 @@
+// The window that changes the article selected in the main window.
+#pragma once
+
+#include "forms/MakaleGirişFormu.h"
+
+/// Modal to its owner, for one article. Reports what it saved through the shared variables
+/// DeğiştirilenYazarAdı and DeğiştirilenMakaleBaşlığı.
+class DeğiştirFormu : public MakaleGirişFormu
+{
+public:
+    explicit DeğiştirFormu(AnaForm& anaForm);
+
+private:
+    void Form_Load();
+    void KaydetDüğmesi_Click();
+    void VazgeçDüğmesi_Click();
+    void YapıştırDüğmesi_Click();
+    void DosyaYükleDüğmesi_Click();
+    /// The selected article; the first one where several have its title.
+    Recordset seçiliMakale() const;
+
+    Düğme& KaydetDüğmesi = kaydet_;
+    Düğme& VazgeçDüğmesi = vazgeç_;
+    Düğme& YapıştırDüğmesi = yapıştır_;
+    Düğme& DosyaYükleDüğmesi = dosyaYükle_;
+};

@@ -1,0 +1,123 @@
+#include "forms/EkleFormu.h"
+
+#include "app/HataPolitikaları.h"
+#include "app/Metinler.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "forms/AnaForm.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QGuiApplication>
+
+namespace {
+
+constexpr int MetinBoyutu = 8; // points
+
+} // namespace
+
+EkleFormu::EkleFormu(AnaForm& anaForm)
+    : MakaleGirişFormu(nullptr, anaForm,
+                       {.Pencere = QStringLiteral("EkleFormu"),
+                        .Başlık = 340,
+                        .Kaydet = QStringLiteral("EkleKaydetButonu"),
+                        .Vazgeç = QStringLiteral("İptalKapatButonu"),
+                        .Yapıştır = QStringLiteral("YapıştırButonu"),
+                        .DosyaYükle = QStringLiteral("DosyaYükleButonu"),
+                        .KaydetYazısı = 370,
+                        .VazgeçYazısı = 375})
+{
+    connect(&EkleKaydetButonu, &QPushButton::clicked, this, &EkleFormu::EkleKaydetButonu_Click);
+    connect(&İptalKapatButonu, &QPushButton::clicked, this, &EkleFormu::İptalKapatButonu_Click);
+    connect(&YapıştırButonu, &QPushButton::clicked, this, &EkleFormu::YapıştırButonu_Click);
+    connect(&DosyaYükleButonu, &QPushButton::clicked, this, &EkleFormu::DosyaYükleButonu_Click);
+    Form_Load();
+}
+
+void EkleFormu::Form_Load()
+{
+    kilitle();
+    alanlarıKilitle();
+    İlkHatadaBit([this] { yazarlarıYükle(QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler]")); });
+    EkleKaydetButonu.setFocus();
+}
+
+void EkleFormu::kilitle()
+{
+    DosyaYükleButonu.setEnabled(false);
+    YapıştırButonu.setEnabled(false);
+    EkleKaydetButonu.setText(Metin(370));
+    İptalKapatButonu.setText(Metin(375));
+}
+
+void EkleFormu::EkleKaydetButonu_Click()
+{
+    İlkHatadaBit([this] {
+        if (!GirişDurumunda())
+            girişeBaşla();
+        else if (alanlarTamam())
+            kaydet();
+    });
+}
+
+void EkleFormu::girişeBaşla()
+{
+    alanlarıAç();
+    DosyaYükleButonu.setEnabled(true);
+    MakaleMetniKutusu.setFont(FormYazıTipi());
+    MakaleMetniKutusu.FontSize(MetinBoyutu);
+    YapıştırButonu.setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
+    EkleKaydetButonu.setText(Metin(410));
+    İptalKapatButonu.setText(Metin(280));
+    yeniKayıt();
+    YazarAdıListesi.setFocus();
+}
+
+void EkleFormu::kaydet()
+{
+    kilitle();
+    if (!eklenen_) // it could not be opened when the entry began
+        yeniKayıt();
+    alanlarıYaz(*eklenen_);
+    eklenen_->Update();
+    eklenen_.reset();
+    anaForm_.YazarListesiYükle();
+    alanlarıBoşalt();
+    alanlarıKilitle();
+}
+
+void EkleFormu::yeniKayıt()
+{
+    eklenen_ = Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler]"));
+    eklenen_->AddNew();
+}
+
+void EkleFormu::İptalKapatButonu_Click()
+{
+    if (!GirişDurumunda()) {
+        accept();
+        return;
+    }
+    İlkHatadaBit([this] {
+        kilitle();
+        alanlarıBoşalt();
+        alanlarıKilitle();
+        eklenen_.reset();
+    });
+}
+
+void EkleFormu::YapıştırButonu_Click()
+{
+    panodanYapıştır();
+}
+
+void EkleFormu::DosyaYükleButonu_Click()
+{
+    dosyadanYükle([] { QCoreApplication::processEvents(); });
+}
+
+// The title bar and Esc come here: what is being entered is not thrown away by them.
+void EkleFormu::reject()
+{
+    if (!GirişDurumunda())
+        MakaleGirişFormu::reject();
+}

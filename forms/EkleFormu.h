@@ -1,0 +1,35 @@
+// The window that adds articles, one after another.
+#pragma once
+
+#include "forms/MakaleGirişFormu.h"
+
+#include <optional>
+
+/// Locked until the user begins an entry; then a new record is pending, and the window does not close.
+class EkleFormu : public MakaleGirişFormu
+{
+public:
+    explicit EkleFormu(AnaForm& anaForm);
+
+    /// Whether an entry has been begun and neither saved nor given up.
+    bool GirişDurumunda() const { return YazarAdıListesi.isEnabled(); }
+
+    void reject() override;
+
+private:
+    void Form_Load();
+    void EkleKaydetButonu_Click();
+    void İptalKapatButonu_Click();
+    void YapıştırButonu_Click();
+    void DosyaYükleButonu_Click();
+    void girişeBaşla();
+    void kaydet();
+    void yeniKayıt();
+    void kilitle(); // the buttons only
+
+    Düğme& EkleKaydetButonu = kaydet_;
+    Düğme& İptalKapatButonu = vazgeç_;
+    Düğme& YapıştırButonu = yapıştır_;
+    Düğme& DosyaYükleButonu = dosyaYükle_;
+    std::optional<Recordset> eklenen_; // the pending record; only in the entry state
+};

@@ -1,0 +1,263 @@
+#include "forms/MakaleGirişFormu.h"
+
+#include "app/Ayarlar.h"
+#include "app/HataPolitikaları.h"
+#include "app/Metinler.h"
+#include "app/OrtakApilerModülü.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "app/İletiKutusu.h"
+#include "controls/Etiketler.h"
+#include "controls/MetinDosyası.h"
+#include "text/TürkçeHarfler.h"
+#include "text/TürkçeTarih.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QScopeGuard>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr int OlağanGenişlik = 9600; // twips
+constexpr int OlağanYükseklik = 8400;
+constexpr int EnUzunBaşlık = 255; // letters
+constexpr int EnUzunYer = 50;
+constexpr int EnUzunTarih = 20;
+constexpr QStringView SonDosyaAnahtarı = u"Son Acilan";
+
+/// Where the file chosen last lies, else the user's documents; home where that folder is gone.
+QString başlangıçKlasörü()
+{
+    const QString son = AyarOku(SonDosyaAnahtarı, QString());
+    const QString klasör = son.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                         : QFileInfo(son).absolutePath();
+    return DosyaVar(klasör) ? klasör : QDir::homePath();
+}
+
+} // namespace
+
+MakaleGirişFormu::MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adlar& adlar)
+    : QDialog(sahip), anaForm_(anaForm)
+{
+    setObjectName(adlar.Pencere);
+    setFont(FormYazıTipi());
+    kontrolleriKur(adlar);
+    yerleştir();
+    tuşlarıBağla();
+    odaklarıBağla();
+    TürkçeKarakterKümesiUygula(*this);
+    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+}
+
+std::array<QWidget*, 5> MakaleGirişFormu::alanlar()
+{
+    return {&YazarAdıListesi, &MakaleBaşlığıKutusu, &YayımYeriKutusu, &YayımTarihiKutusu, &MakaleMetniKutusu};
+}
+
+void MakaleGirişFormu::kontrolleriKur(const Adlar& adlar)
+{
+    setWindowTitle(Metin(adlar.Başlık));
+    YazarAdıListesi.setObjectName(QStringLiteral("YazarAdıListesi"));
+    MakaleBaşlığıKutusu.setObjectName(QStringLiteral("MakaleBaşlığıKutusu"));
+    YayımYeriKutusu.setObjectName(QStringLiteral("YayımYeriKutusu"));
+    YayımTarihiKutusu.setObjectName(QStringLiteral("YayımTarihiKutusu"));
+    MakaleMetniKutusu.setObjectName(QStringLiteral("MakaleMetniKutusu"));
+    constexpr std::array<int, 5> etiketler = {345, 350, 355, 360, 170};
+    for (std::size_t i = 0; i < Etiket.size(); ++i)
+        EtiketiKur(Etiket[i], i, etiketler[i], *alanlar()[i]);
+
+    // Longer names are refused by the library: better not typed at all.
+    YazarAdıListesi.lineEdit()->setMaxLength(static_cast<int>(Tanım(MakaleSütunu::YazarAdi).enUzun));
+    MakaleBaşlığıKutusu.setMaxLength(EnUzunBaşlık);
+    YayımYeriKutusu.setMaxLength(EnUzunYer);
+    YayımTarihiKutusu.setMaxLength(EnUzunTarih);
+    MakaleMetniKutusu.setUndoRedoEnabled(true);
+
+    const auto düğmeKur = [](Düğme& düğme, const QString& ad, int metin) {
+        düğme.setObjectName(ad);
+        düğme.setText(Metin(metin));
+    };
+    düğmeKur(yapıştır_, adlar.Yapıştır, 380);
+    düğmeKur(dosyaYükle_, adlar.DosyaYükle, 385);
+    düğmeKur(kaydet_, adlar.Kaydet, adlar.KaydetYazısı);
+    düğmeKur(vazgeç_, adlar.Vazgeç, adlar.VazgeçYazısı);
+}
+
+// Adding to the layout also gives the controls their parent, in the order of the Tab key.
+void MakaleGirişFormu::yerleştir()
+{
+    auto* ızgara = new QGridLayout(this);
+    ızgara->addWidget(&Etiket[0], 0, 0);
+    ızgara->addWidget(&YazarAdıListesi, 0, 1, 1, 3);
+    ızgara->addWidget(&Etiket[1], 1, 0);
+    ızgara->addWidget(&MakaleBaşlığıKutusu, 1, 1, 1, 3);
+    ızgara->addWidget(&Etiket[2], 2, 0);
+    ızgara->addWidget(&YayımYeriKutusu, 2, 1);
+    ızgara->addWidget(&Etiket[3], 2, 2);
+    ızgara->addWidget(&YayımTarihiKutusu, 2, 3);
+    ızgara->addWidget(&Etiket[4], 3, 0, 1, 4);
+    ızgara->addWidget(&MakaleMetniKutusu, 4, 0, 1, 4);
+    ızgara->setRowStretch(4, 1);
+    ızgara->setColumnStretch(1, 3);
+    ızgara->setColumnStretch(3, 2);
+
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addWidget(&yapıştır_);
+    düğmeler->addWidget(&dosyaYükle_);
+    düğmeler->addStretch();
+    düğmeler->addWidget(&kaydet_);
+    düğmeler->addWidget(&vazgeç_);
+    ızgara->addLayout(düğmeler, 5, 0, 1, 4);
+}
+
+void MakaleGirişFormu::tuşlarıBağla()
+{
+    YazarAdıListesi.KeyPress = [this](char16_t& kod) { BüyükHarfliKutuSüzgeci(YazarAdıListesi, kod); };
+    MakaleBaşlığıKutusu.KeyPress = [this](char16_t& kod) {
+        BüyükHarfliKutuSüzgeci(MakaleBaşlığıKutusu, kod);
+    };
+    YayımYeriKutusu.KeyPress = [this](char16_t& kod) { KutuSüzgeci(YayımYeriKutusu, kod); };
+    YayımTarihiKutusu.KeyPress = [this](char16_t& kod) { KutuSüzgeci(YayımTarihiKutusu, kod); };
+}
+
+void MakaleGirişFormu::odaklarıBağla()
+{
+    for (std::size_t i = 0; i < Etiket.size(); ++i) {
+        QWidget* alan = alanlar()[i];
+        odakEtiketi_.Bağla(*alan, Etiket[i],
+                           alan == &MakaleMetniKutusu ? OdakEtiketi::Giriş::Olduğu
+                                                      : OdakEtiketi::Giriş::TümünüSeç,
+                           [this, alan] { alanıDüzelt(*alan); });
+    }
+}
+
+void MakaleGirişFormu::alanıDüzelt(QWidget& alan)
+{
+    if (&alan == &YazarAdıListesi) {
+        YazarAdıListesi.Text(KırpıkSatır(YazarAdıListesi.Text()));
+    } else if (&alan == &MakaleMetniKutusu) {
+        MakaleMetniKutusu.DüzMetneİndir();
+    } else {
+        auto& kutu = static_cast<MetinKutusu&>(alan);
+        const bool özelAd = &alan != &MakaleBaşlığıKutusu;
+        kutu.Text(özelAd ? TürkçeÖzelAd(kutu.KırpıkText()) : kutu.KırpıkText());
+    }
+}
+
+AyrılışDenetimi::Karar MakaleGirişFormu::tarihiDenetle()
+{
+    using Karar = AyrılışDenetimi::Karar;
+    YayımTarihiKutusu.Text(YayımTarihiKutusu.KırpıkText());
+    if (YayımTarihiKutusu.Text().isEmpty() || TürkçeTarihMi(YayımTarihiKutusu.Text()))
+        return Karar::Serbest;
+    return İletiGöster(Metin(430), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır) == İletiYanıtı::Evet
+               ? Karar::Onaylı
+               : Karar::Kalsın;
+}
+
+void MakaleGirişFormu::yazarlarıYükle(const QString& sorgu)
+{
+    Recordset kayıtlar = Veritabanı->OpenRecordset(sorgu);
+    if (kayıtlar.Bof() && kayıtlar.Eof())
+        return;
+    QStringList yazarlar;
+    for (kayıtlar.MoveFirst(); !kayıtlar.Eof(); kayıtlar.MoveNext())
+        yazarlar.append(kayıtlar.Fields(u"YazarAdi").Value());
+    YazarAdıListesi.Clear();
+    YazarAdıListesi.AddItems(yazarlar);
+    YazarAdıListesi.Text({}); // the first one is not chosen
+}
+
+bool MakaleGirişFormu::alanlarTamam()
+{
+    odakEtiketi_.Ayrıl();
+    struct Kural
+    {
+        bool eksik;
+        int ileti;
+        QWidget& alan;
+    };
+    const QString yazar = YazarAdıListesi.Text();
+    for (const Kural& kural :
+         {Kural{yazar.isEmpty(), 390, YazarAdıListesi}, Kural{!yazar.contains(u' '), 393, YazarAdıListesi},
+          Kural{MakaleBaşlığıKutusu.Text().isEmpty(), 395, MakaleBaşlığıKutusu},
+          Kural{YayımYeriKutusu.Text().isEmpty(), 400, YayımYeriKutusu},
+          Kural{MakaleMetniKutusu.document()->isEmpty(), 405, MakaleMetniKutusu}}) {
+        if (!kural.eksik)
+            continue;
+        İletiGöster(Metin(kural.ileti), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+        kural.alan.setFocus();
+        return false;
+    }
+    return true;
+}
+
+void MakaleGirişFormu::alanlarıYaz(Recordset& kayıtlar)
+{
+    kayıtlar.Fields(u"YazarAdi").Value(YazarAdıListesi.Text());
+    kayıtlar.Fields(u"MakaleBasligi").Value(MakaleBaşlığıKutusu.Text());
+    kayıtlar.Fields(u"YayimYeri").Value(YayımYeriKutusu.Text());
+    kayıtlar.Fields(u"YayimTarihi").Value(YayımTarihiKutusu.Text());
+    kayıtlar.Fields(u"MakaleMetni").Value(MakaleMetniKutusu.Text());
+}
+
+void MakaleGirişFormu::alanlarıBoşalt()
+{
+    YazarAdıListesi.Text({});
+    for (MetinKutusu* kutu : {&MakaleBaşlığıKutusu, &YayımYeriKutusu, &YayımTarihiKutusu})
+        kutu->Text({});
+    MakaleMetniKutusu.Text({});
+}
+
+void MakaleGirişFormu::alanlarıKilitle()
+{
+    for (QWidget* alan : alanlar()) {
+        alan->setEnabled(false);
+        ZeminVer(*alan, palette().color(QPalette::Window));
+    }
+}
+
+void MakaleGirişFormu::alanlarıAç()
+{
+    for (QWidget* alan : alanlar()) {
+        alan->setEnabled(true);
+        ZeminVer(*alan, EkranRengi(PencereZeminiRengi, palette()));
+    }
+}
+
+// What holds no text (a picture) leaves the article text as it is.
+void MakaleGirişFormu::panodanYapıştır()
+{
+    İlkHatadaBit([this] {
+        const QMimeData* pano = QGuiApplication::clipboard()->mimeData();
+        if (pano && pano->hasText())
+            MakaleMetniKutusu.Text(pano->text());
+    });
+}
+
+void MakaleGirişFormu::dosyadanYükle(const std::function<void()>& yüklendi)
+{
+    QFileDialog sorucu(this, Metin(425), başlangıçKlasörü());
+    sorucu.setFileMode(QFileDialog::ExistingFile);
+    sorucu.setNameFilters({Metin(415), Metin(420)});
+    if (sorucu.exec() != QDialog::Accepted || sorucu.selectedFiles().isEmpty())
+        return;
+    const QString yol = sorucu.selectedFiles().constFirst();
+    try {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto sonunda = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+        MakaleMetniKutusu.Göster(MetinDosyasıOku(yol));
+    } catch (const MetinOkumaHatası& hata) {
+        İletiGöster(hata.Açıklama(), İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
+        return;
+    } catch (...) {
+        İletiGöster(ŞimdikiHata().Açıklama, İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
+        return;
+    }
+    if (yüklendi)
+        yüklendi();
+    AyarYaz(SonDosyaAnahtarı, yol);
+}

@@ -1,0 +1,71 @@
+// What the windows for adding and for changing an article share: the five fields and their rules.
+#pragma once
+
+#include "controls/AyrılışDenetimi.h"
+#include "controls/AçılırListe.h"
+#include "controls/Düğme.h"
+#include "controls/MetinKutusu.h"
+#include "controls/OdakEtiketi.h"
+#include "controls/ZenginMetinKutusu.h"
+#include "store/Recordset.h"
+
+#include <QDialog>
+#include <QLabel>
+
+#include <array>
+#include <functional>
+
+class AnaForm;
+
+/// A modal window with the fields, two buttons that fill the article text, and two that end the entry;
+/// what those do is the derived window's. Lives while it is shown.
+class MakaleGirişFormu : public QDialog
+{
+protected:
+    /// Object names and caption numbers of what the two windows call differently.
+    struct Adlar
+    {
+        QString Pencere;
+        int Başlık;
+        QString Kaydet, Vazgeç, Yapıştır, DosyaYükle;
+        int KaydetYazısı, VazgeçYazısı;
+    };
+    MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adlar& adlar);
+
+    /// Adds the authors that the query gives to the author list.
+    void yazarlarıYükle(const QString& sorgu);
+    /// Checks the fields in their order; the first that is not filled as it must be is told and gets the
+    /// focus.
+    bool alanlarTamam();
+    /// Sets the five fields of the record that is being added or changed.
+    void alanlarıYaz(Recordset& kayıtlar);
+    void alanlarıBoşalt();
+    void alanlarıKilitle();
+    void alanlarıAç();
+
+    void panodanYapıştır();
+    /// Lets the user choose a file and loads it into the article text; the text stays as it was when the
+    /// file can't be read.
+    /// @param yüklendi called after loading
+    void dosyadanYükle(const std::function<void()>& yüklendi = {});
+
+    AnaForm& anaForm_;
+    std::array<QLabel, 5> Etiket;
+    AçılırListe YazarAdıListesi{AçılırListe::Tür::Yazılabilir};
+    MetinKutusu MakaleBaşlığıKutusu, YayımYeriKutusu, YayımTarihiKutusu;
+    ZenginMetinKutusu MakaleMetniKutusu;
+    Düğme yapıştır_, dosyaYükle_, kaydet_, vazgeç_;
+
+private:
+    void kontrolleriKur(const Adlar& adlar);
+    void yerleştir();
+    void tuşlarıBağla();
+    void odaklarıBağla();
+    std::array<QWidget*, 5> alanlar();
+    /// Trims a field's text and brings it into its form; done when the focus leaves the field.
+    void alanıDüzelt(QWidget& alan);
+    AyrılışDenetimi::Karar tarihiDenetle();
+
+    OdakEtiketi odakEtiketi_;
+    AyrılışDenetimi tarihDenetimi_{YayımTarihiKutusu, [this] { return tarihiDenetle(); }};
+};
