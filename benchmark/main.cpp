@@ -17,8 +17,10 @@ namespace {
 
 constexpr std::array KapalıÖlçümler = {&AçılışıÖlç};
 constexpr std::array PencereÖlçümleri = {&YazarListesiniÖlç, &YazarTıklamasınıÖlç, &BaşlıkTıklamasınıÖlç,
-                                         &ÖnekBulmayıÖlç, &TümündeBulmayıÖlç};
-constexpr std::array UzunMetinÖlçümleri = {&UzunMakaleyiÖlç, &BaşlıkTıklamasınıÖlç, &İşaretlemeyiÖlç};
+                                         &ÖnekBulmayıÖlç,    &TümündeBulmayıÖlç,   &GirişPencereleriniÖlç,
+                                         &GirişiÖlç,         &KaydetmeyiÖlç,       &SilmeyiÖlç};
+constexpr std::array UzunMetinÖlçümleri = {&UzunMakaleyiÖlç, &BaşlıkTıklamasınıÖlç, &İşaretlemeyiÖlç,
+                                           &RtfYüklemeyiÖlç};
 
 const QList<int> Boylar = {1'000, 10'000, 100'000};
 const QList<int> KısaBoylar = {1'000, 10'000};

@@ -30,9 +30,15 @@ void YazarTıklamasınıÖlç(const PencereOrtamı& ortam);
 void BaşlıkTıklamasınıÖlç(const PencereOrtamı& ortam);
 void TümündeBulmayıÖlç(const PencereOrtamı& ortam);
 void ÖnekBulmayıÖlç(const PencereOrtamı& ortam);
+void GirişPencereleriniÖlç(const PencereOrtamı& ortam);
+void GirişiÖlç(const PencereOrtamı& ortam);
+/// These two leave the library as it was, but its file with some free pages: the last ones of a library.
+void KaydetmeyiÖlç(const PencereOrtamı& ortam);
+void SilmeyiÖlç(const PencereOrtamı& ortam);
 /// For libraries with long articles.
 void UzunMakaleyiÖlç(const PencereOrtamı& ortam);
 void İşaretlemeyiÖlç(const PencereOrtamı& ortam);
+void RtfYüklemeyiÖlç(const PencereOrtamı& ortam);
 
 /// Throws when a measurement did not do what it is named after.
 void Sağla(bool doğru, const char* beklenen);
