@@ -37,6 +37,17 @@ void KitaplığıBırak()
     Motor.reset();
 }
 
+QStringList SütunuOku(const QString& sorgu, QStringView sütun)
+{
+    Recordset kayıtlar = Veritabanı->OpenRecordset(sorgu);
+    QStringList değerler;
+    if (kayıtlar.Bof() && kayıtlar.Eof())
+        return değerler;
+    for (kayıtlar.MoveFirst(); !kayıtlar.Eof(); kayıtlar.MoveNext())
+        değerler.append(kayıtlar.Fields(sütun).Value());
+    return değerler;
+}
+
 Recordset MakaleyiAç(const QString& başlık)
 {
     return Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='") +

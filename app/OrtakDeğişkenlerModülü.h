@@ -4,6 +4,7 @@
 #include "store/DBEngine.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -25,6 +26,8 @@ void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir = {});
 /// Lets go of the library and its lock.
 void KitaplığıBırak();
 
+/// One column of all rows of a query.
+QStringList SütunuOku(const QString& sorgu, QStringView sütun);
 /// The first article with this title, as it stands between apostrophes in the query; no row where none has
 /// it.
 Recordset MakaleyiAç(const QString& başlık);

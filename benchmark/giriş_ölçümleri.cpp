@@ -347,7 +347,7 @@ void RtfYüklemeyiÖlç(const PencereOrtamı& ortam)
     };
     Ölçüm gösterme{QStringLiteral("Okunan RTF'yi gösterme"),
                    [&] {
-                       kutu.Göster(okunan);
+                       kutu.Değiştir(okunan);
                        boya();
                    },
                    QStringLiteral("biçimsiz gösterme"),

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QWindow>
 
@@ -33,24 +34,25 @@ bool AyrılışDenetimi::eventFilter(QObject* nesne, QEvent* olay)
     const QWidget* pencere = kutu_.window();
     switch (olay->type()) {
     case QEvent::MouseButtonPress: // on its way to the control, which would get the focus before the press
-        return nesne == pencere->windowHandle() &&
-               basışıTut(pencere->childAt(static_cast<QMouseEvent*>(olay)->position().toPoint()));
+        return nesne == pencere->windowHandle() && basışıTut(*static_cast<QMouseEvent*>(olay));
     case QEvent::KeyPress: {
         const int tuş = static_cast<QKeyEvent*>(olay)->key();
         return nesne == &kutu_ && (tuş == Qt::Key_Tab || tuş == Qt::Key_Backtab) && sor_() == Karar::Kalsın;
     }
     case QEvent::Shortcut: {
         const auto* kontrol = qobject_cast<QWidget*>(nesne);
-        return kontrol && kontrol->window() == pencere && sor_() == Karar::Kalsın;
+        const auto* etiket = qobject_cast<QLabel*>(nesne);
+        const bool buraya = etiket && etiket->buddy() == &kutu_;
+        return kontrol && kontrol->window() == pencere && !buraya && sor_() == Karar::Kalsın;
     }
     default:
         return false;
     }
 }
 
-bool AyrılışDenetimi::basışıTut(QWidget* basılan)
+bool AyrılışDenetimi::basışıTut(const QMouseEvent& olay)
 {
-    QWidget* hedef = odakAlan(basılan);
+    QWidget* hedef = odakAlan(kutu_.window()->childAt(olay.position().toPoint()));
     if (!hedef || hedef == &kutu_)
         return false;
     switch (sor_()) {
@@ -58,7 +60,7 @@ bool AyrılışDenetimi::basışıTut(QWidget* basılan)
         return false;
     case Karar::Onaylı: // the button of the mouse was let go meanwhile: what it pressed follows here
         hedef->setFocus(Qt::MouseFocusReason);
-        if (auto* düğme = qobject_cast<QAbstractButton*>(hedef))
+        if (auto* düğme = qobject_cast<QAbstractButton*>(hedef); düğme && olay.button() == Qt::LeftButton)
             düğme->click();
         return true;
     case Karar::Kalsın:

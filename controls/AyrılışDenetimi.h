@@ -6,7 +6,7 @@
 #include <functional>
 
 class QLineEdit;
-class QWidget;
+class QMouseEvent;
 
 /// Watches one field of a window. The question is put before anything else happens, so that a refused
 /// press, key or mnemonic has no effect at all. Owned by the window; the field must live as long.
@@ -28,7 +28,7 @@ protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 
 private:
-    bool basışıTut(QWidget* basılan);
+    bool basışıTut(const QMouseEvent& olay);
 
     QLineEdit& kutu_;
     std::function<Karar()> sor_;

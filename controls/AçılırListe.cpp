@@ -18,6 +18,7 @@ AçılırListe::AçılırListe(Tür tür, QWidget* üst) : TuşOlaylı<QComboBox
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(EnAzHarf);
     setMaxVisibleItems(AçıkSatır);
+    setFocusPolicy(Qt::StrongFocus); // not by the wheel
     auto* görünüm = new QListView(this);
     görünüm->setUniformItemSizes(true);
     görünüm->setTextElideMode(Qt::ElideRight);

@@ -2,10 +2,17 @@
 
 #include "app/Metinler.h"
 
+namespace {
+
+constexpr int EtiketPayı = 2; // pixels; the last letter may be wider than its advance
+
+} // namespace
+
 void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
 {
     etiket.setObjectName(QStringLiteral("Etiket%1").arg(sıra));
     etiket.setText(Metin(metin));
     etiket.setBuddy(&kontrol);
+    etiket.setContentsMargins(0, 0, EtiketPayı, 0);
     kontrol.setAccessibleName(SadeMetin(metin));
 }

@@ -42,6 +42,11 @@ public:
         metinler_ += yeni;
         endInsertRows();
     }
+    void değiştir(int sıra, const QString& metin)
+    {
+        metinler_[sıra] = metin;
+        emit dataChanged(index(sıra), index(sıra));
+    }
     void çıkar(int sıra)
     {
         beginRemoveRows({}, sıra, sıra);
@@ -102,6 +107,12 @@ QString ListeKutusu::Text() const
 QString ListeKutusu::Item(int sıra) const
 {
     return model_->metinler().value(sıra);
+}
+
+void ListeKutusu::Item(int sıra, const QString& metin)
+{
+    if (sıra >= 0 && sıra < ListCount())
+        model_->değiştir(sıra, metin);
 }
 
 void ListeKutusu::AddItems(const QStringList& metinler)

@@ -35,6 +35,8 @@ public:
     /// Selects the first entry that equals the text without regard to case, or none.
     void Text(const QString& metin);
     QString Item(int sıra) const;
+    /// Puts another text in an entry's place; fires nothing.
+    void Item(int sıra, const QString& metin);
 
     void AddItems(const QStringList& metinler);
     /// Takes an entry away; where it was the selected one, none is selected then. Fires nothing.

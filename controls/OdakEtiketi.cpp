@@ -1,5 +1,8 @@
 #include "controls/OdakEtiketi.h"
 
+#include "app/HataPolitikaları.h"
+
+#include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
@@ -28,7 +31,7 @@ bool OdakEtiketi::eventFilter(QObject* nesne, QEvent* olay)
     } else if (olay->type() == QEvent::FocusOut && nesne == odaklı_) {
         const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
         if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason &&
-            neden != Qt::MenuBarFocusReason)
+            neden != Qt::MenuBarFocusReason && !QApplication::activePopupWidget())
             Ayrıl();
     }
     return false;
@@ -56,5 +59,5 @@ void OdakEtiketi::Ayrıl()
     const Bağ& bağ = bağlar_[kontrol];
     bağ.etiket->setPalette(QPalette());
     if (bağ.çıkış)
-        bağ.çıkış();
+        AdımAdım(bağ.çıkış);
 }

@@ -6,6 +6,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <utility>
+
 namespace {
 
 constexpr Renk İşaretRengi = 0x0000FF; // red
@@ -75,7 +77,9 @@ ZenginMetinKutusu::ZenginMetinKutusu(QWidget* üst) : TuşOlaylı<QPlainTextEdit
 // The widget's own plain text turns no-break spaces into blanks.
 QString ZenginMetinKutusu::Text() const
 {
-    return document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+    QString metin = document()->toRawText();
+    metin.replace(QChar::ParagraphSeparator, u'\n');
+    return metin.replace(QChar::LineSeparator, u'\n'); // what Shift+Enter types
 }
 
 void ZenginMetinKutusu::Text(const QString& metin)
@@ -85,13 +89,16 @@ void ZenginMetinKutusu::Text(const QString& metin)
     biçimli_ = false;
 }
 
-void ZenginMetinKutusu::Göster(const BiçimliMetin& belge)
+void ZenginMetinKutusu::Değiştir(const BiçimliMetin& belge)
 {
-    Text(belge.Metin);
     biçimli_ = !belge.Parçalar.isEmpty();
     TopluBiçimleme biçimleme(*document());
+    QTextCursor imleç(document());
+    imleç.select(QTextCursor::Document);
+    imleç.insertText(nulSuz(belge.Metin), {});
     for (const BiçimliParça& parça : belge.Parçalar)
         biçimleme.Ver(parça.Yer, parça.Uzunluk, ekranBiçimi(parça.Biçim, palette().color(QPalette::Base)));
+    setTextCursor(QTextCursor(document())); // to the beginning
 }
 
 void ZenginMetinKutusu::DüzMetneİndir()
@@ -101,10 +108,20 @@ void ZenginMetinKutusu::DüzMetneİndir()
     const auto son = std::find_if_not(metin.rbegin(), std::reverse_iterator(ilk), kırpılır).base();
     if (!biçimli_ && ilk == metin.begin() && son == metin.end())
         return;
-    const auto baştan = static_cast<int>(ilk - metin.begin());
-    const int imleç = SelStart() - baştan;
-    Text(metin.mid(baştan, son - ilk));
-    SelStart(imleç);
+    QTextCursor imleç(document());
+    imleç.beginEditBlock();
+    const auto çıkar = [&imleç](qsizetype baş, qsizetype bitiş) {
+        imleç.setPosition(static_cast<int>(baş));
+        imleç.setPosition(static_cast<int>(bitiş), QTextCursor::KeepAnchor);
+        imleç.removeSelectedText();
+    };
+    çıkar(son - metin.begin(), metin.size());
+    çıkar(0, ilk - metin.begin());
+    if (std::exchange(biçimli_, false)) {
+        imleç.select(QTextCursor::Document);
+        imleç.setCharFormat({});
+    }
+    imleç.endEditBlock();
 }
 
 void ZenginMetinKutusu::YalnızOkunur()

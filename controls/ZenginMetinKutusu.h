@@ -21,9 +21,9 @@ public:
     /// Replaces the whole text, without marks, and goes to its beginning.
     void Text(const QString& metin);
 
-    /// Replaces the whole text by one with formats.
-    void Göster(const BiçimliMetin& belge);
-    /// Makes the text plain and takes the blanks from its ends. The caret stays where nothing changes.
+    /// Replaces the whole text by one with formats, as the user's own change: it can be undone.
+    void Değiştir(const BiçimliMetin& belge);
+    /// Makes the text plain and takes the blanks from its ends. Can be undone; the caret stays in its place.
     void DüzMetneİndir();
 
     /// For showing only: the text can be selected but not changed.

@@ -228,13 +228,10 @@ void AnaForm::görünümAyarlarınıOku()
 
 void AnaForm::YazarListesiYükle()
 {
-    Recordset kayıtlar = Veritabanı->OpenRecordset(
-        QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler] ORDER BY [YazarAdi] ASC"));
-    if (kayıtlar.Bof() && kayıtlar.Eof())
+    const QStringList yazarlar = SütunuOku(
+        QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler] ORDER BY [YazarAdi] ASC"), u"YazarAdi");
+    if (yazarlar.isEmpty())
         return;
-    QStringList yazarlar;
-    for (kayıtlar.MoveFirst(); !kayıtlar.Eof(); kayıtlar.MoveNext())
-        yazarlar.append(kayıtlar.Fields(u"YazarAdi").Value());
     YazarListesi.Clear();
     YazarListesi.AddItems(yazarlar);
     yazarToplamınıYaz();

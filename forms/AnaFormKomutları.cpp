@@ -46,8 +46,11 @@ void AnaForm::MakeleDeğiştirMenüsü_Click()
 
 void AnaForm::değişeniSeç()
 {
-    if (sonuçGörünümü()) // the results may name a title that is gone
-        tümündeBul();
+    if (sonuçGörünümü()) { // the results stay, under the article's new title
+        MakaleListesi.Item(MakaleListesi.ListIndex(), DeğiştirilenMakaleBaşlığı);
+        MakaleListesi_Click();
+        return;
+    }
     YazarListesi.Text(DeğiştirilenYazarAdı);
     MakaleListesi.Text(DeğiştirilenMakaleBaşlığı);
 }

@@ -4,6 +4,8 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "forms/AnaForm.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 // An imported title may be longer than what can be typed; it must not be cut.
@@ -29,8 +31,6 @@ DeğiştirFormu::DeğiştirFormu(AnaForm& anaForm)
 {
     connect(&KaydetDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::KaydetDüğmesi_Click);
     connect(&VazgeçDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::VazgeçDüğmesi_Click);
-    connect(&YapıştırDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::YapıştırDüğmesi_Click);
-    connect(&DosyaYükleDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::DosyaYükleDüğmesi_Click);
     Form_Load();
 }
 
@@ -75,12 +75,11 @@ void DeğiştirFormu::VazgeçDüğmesi_Click()
     reject();
 }
 
-void DeğiştirFormu::YapıştırDüğmesi_Click()
+// Esc must not throw changes away: it leads to the button that does.
+void DeğiştirFormu::keyPressEvent(QKeyEvent* olay)
 {
-    panodanYapıştır();
-}
-
-void DeğiştirFormu::DosyaYükleDüğmesi_Click()
-{
-    dosyadanYükle();
+    if (olay->key() == Qt::Key_Escape)
+        VazgeçDüğmesi.setFocus();
+    else
+        MakaleGirişFormu::keyPressEvent(olay);
 }

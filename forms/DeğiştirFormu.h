@@ -10,17 +10,16 @@ class DeğiştirFormu : public MakaleGirişFormu
 public:
     explicit DeğiştirFormu(AnaForm& anaForm);
 
+protected:
+    void keyPressEvent(QKeyEvent* olay) override;
+
 private:
     void Form_Load();
     void KaydetDüğmesi_Click();
     void VazgeçDüğmesi_Click();
-    void YapıştırDüğmesi_Click();
-    void DosyaYükleDüğmesi_Click();
     /// The selected article; the first one where several have its title.
     Recordset seçiliMakale() const;
 
     Düğme& KaydetDüğmesi = kaydet_;
     Düğme& VazgeçDüğmesi = vazgeç_;
-    Düğme& YapıştırDüğmesi = yapıştır_;
-    Düğme& DosyaYükleDüğmesi = dosyaYükle_;
 };

@@ -28,20 +28,18 @@ EkleFormu::EkleFormu(AnaForm& anaForm)
 {
     connect(&EkleKaydetButonu, &QPushButton::clicked, this, &EkleFormu::EkleKaydetButonu_Click);
     connect(&İptalKapatButonu, &QPushButton::clicked, this, &EkleFormu::İptalKapatButonu_Click);
-    connect(&YapıştırButonu, &QPushButton::clicked, this, &EkleFormu::YapıştırButonu_Click);
-    connect(&DosyaYükleButonu, &QPushButton::clicked, this, &EkleFormu::DosyaYükleButonu_Click);
     Form_Load();
 }
 
 void EkleFormu::Form_Load()
 {
-    kilitle();
+    düğmeleriKilitle();
     alanlarıKilitle();
     İlkHatadaBit([this] { yazarlarıYükle(QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler]")); });
     EkleKaydetButonu.setFocus();
 }
 
-void EkleFormu::kilitle()
+void EkleFormu::düğmeleriKilitle()
 {
     DosyaYükleButonu.setEnabled(false);
     YapıştırButonu.setEnabled(false);
@@ -74,7 +72,7 @@ void EkleFormu::girişeBaşla()
 
 void EkleFormu::kaydet()
 {
-    kilitle();
+    düğmeleriKilitle();
     if (!eklenen_) // it could not be opened when the entry began
         yeniKayıt();
     alanlarıYaz(*eklenen_);
@@ -98,21 +96,40 @@ void EkleFormu::İptalKapatButonu_Click()
         return;
     }
     İlkHatadaBit([this] {
-        kilitle();
+        düğmeleriKilitle();
         alanlarıBoşalt();
         alanlarıKilitle();
         eklenen_.reset();
     });
 }
 
-void EkleFormu::YapıştırButonu_Click()
+void EkleFormu::alanlarıBoşalt()
 {
-    panodanYapıştır();
+    YazarAdıListesi.Text({});
+    for (MetinKutusu* kutu : {&MakaleBaşlığıKutusu, &YayımYeriKutusu, &YayımTarihiKutusu})
+        kutu->Text({});
+    MakaleMetniKutusu.Text({});
 }
 
-void EkleFormu::DosyaYükleButonu_Click()
+void EkleFormu::alanlarıKilitle()
 {
-    dosyadanYükle([] { QCoreApplication::processEvents(); });
+    for (QWidget* alan : alanlar()) {
+        alan->setEnabled(false);
+        ZeminVer(*alan, palette().color(QPalette::Window));
+    }
+}
+
+void EkleFormu::alanlarıAç()
+{
+    for (QWidget* alan : alanlar()) {
+        alan->setEnabled(true);
+        ZeminVer(*alan, EkranRengi(PencereZeminiRengi, palette()));
+    }
+}
+
+void EkleFormu::dosyaYüklendi()
+{
+    QCoreApplication::processEvents();
 }
 
 // The title bar and Esc come here: what is being entered is not thrown away by them.

@@ -20,12 +20,14 @@ private:
     void Form_Load();
     void EkleKaydetButonu_Click();
     void İptalKapatButonu_Click();
-    void YapıştırButonu_Click();
-    void DosyaYükleButonu_Click();
+    void dosyaYüklendi() override;
     void girişeBaşla();
     void kaydet();
     void yeniKayıt();
-    void kilitle(); // the buttons only
+    void düğmeleriKilitle();
+    void alanlarıAç();
+    void alanlarıBoşalt();
+    void alanlarıKilitle();
 
     Düğme& EkleKaydetButonu = kaydet_;
     Düğme& İptalKapatButonu = vazgeç_;

@@ -12,7 +12,9 @@
 #include "text/TürkçeTarih.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -48,6 +50,8 @@ MakaleGirişFormu::MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adl
     yerleştir();
     tuşlarıBağla();
     odaklarıBağla();
+    connect(&yapıştır_, &QPushButton::clicked, this, [this] { İlkHatadaBit([this] { panodanYapıştır(); }); });
+    connect(&dosyaYükle_, &QPushButton::clicked, this, [this] { İlkHatadaBit([this] { dosyadanYükle(); }); });
     TürkçeKarakterKümesiUygula(*this);
     resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
 }
@@ -160,12 +164,9 @@ AyrılışDenetimi::Karar MakaleGirişFormu::tarihiDenetle()
 
 void MakaleGirişFormu::yazarlarıYükle(const QString& sorgu)
 {
-    Recordset kayıtlar = Veritabanı->OpenRecordset(sorgu);
-    if (kayıtlar.Bof() && kayıtlar.Eof())
+    const QStringList yazarlar = SütunuOku(sorgu, u"YazarAdi");
+    if (yazarlar.isEmpty())
         return;
-    QStringList yazarlar;
-    for (kayıtlar.MoveFirst(); !kayıtlar.Eof(); kayıtlar.MoveNext())
-        yazarlar.append(kayıtlar.Fields(u"YazarAdi").Value());
     YazarAdıListesi.Clear();
     YazarAdıListesi.AddItems(yazarlar);
     YazarAdıListesi.Text({}); // the first one is not chosen
@@ -204,41 +205,15 @@ void MakaleGirişFormu::alanlarıYaz(Recordset& kayıtlar)
     kayıtlar.Fields(u"MakaleMetni").Value(MakaleMetniKutusu.Text());
 }
 
-void MakaleGirişFormu::alanlarıBoşalt()
-{
-    YazarAdıListesi.Text({});
-    for (MetinKutusu* kutu : {&MakaleBaşlığıKutusu, &YayımYeriKutusu, &YayımTarihiKutusu})
-        kutu->Text({});
-    MakaleMetniKutusu.Text({});
-}
-
-void MakaleGirişFormu::alanlarıKilitle()
-{
-    for (QWidget* alan : alanlar()) {
-        alan->setEnabled(false);
-        ZeminVer(*alan, palette().color(QPalette::Window));
-    }
-}
-
-void MakaleGirişFormu::alanlarıAç()
-{
-    for (QWidget* alan : alanlar()) {
-        alan->setEnabled(true);
-        ZeminVer(*alan, EkranRengi(PencereZeminiRengi, palette()));
-    }
-}
-
 // What holds no text (a picture) leaves the article text as it is.
 void MakaleGirişFormu::panodanYapıştır()
 {
-    İlkHatadaBit([this] {
-        const QMimeData* pano = QGuiApplication::clipboard()->mimeData();
-        if (pano && pano->hasText())
-            MakaleMetniKutusu.Text(pano->text());
-    });
+    const QMimeData* pano = QGuiApplication::clipboard()->mimeData();
+    if (pano && pano->hasText())
+        MakaleMetniKutusu.Değiştir({pano->text(), {}});
 }
 
-void MakaleGirişFormu::dosyadanYükle(const std::function<void()>& yüklendi)
+void MakaleGirişFormu::dosyadanYükle()
 {
     QFileDialog sorucu(this, Metin(425), başlangıçKlasörü());
     sorucu.setFileMode(QFileDialog::ExistingFile);
@@ -246,18 +221,20 @@ void MakaleGirişFormu::dosyadanYükle(const std::function<void()>& yüklendi)
     if (sorucu.exec() != QDialog::Accepted || sorucu.selectedFiles().isEmpty())
         return;
     const QString yol = sorucu.selectedFiles().constFirst();
+    const auto uyar = [](const QString& neden) {
+        İletiGöster(neden, İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
+    };
     try {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         const auto sonunda = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-        MakaleMetniKutusu.Göster(MetinDosyasıOku(yol));
+        MakaleMetniKutusu.Değiştir(MetinDosyasıOku(yol));
     } catch (const MetinOkumaHatası& hata) {
-        İletiGöster(hata.Açıklama(), İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
+        uyar(hata.Açıklama());
         return;
     } catch (...) {
-        İletiGöster(ŞimdikiHata().Açıklama, İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
+        uyar(ŞimdikiHata().Açıklama);
         return;
     }
-    if (yüklendi)
-        yüklendi();
+    dosyaYüklendi();
     AyarYaz(SonDosyaAnahtarı, yol);
 }

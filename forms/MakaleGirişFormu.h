@@ -13,7 +13,6 @@
 #include <QLabel>
 
 #include <array>
-#include <functional>
 
 class AnaForm;
 
@@ -39,15 +38,10 @@ protected:
     bool alanlarTamam();
     /// Sets the five fields of the record that is being added or changed.
     void alanlarıYaz(Recordset& kayıtlar);
-    void alanlarıBoşalt();
-    void alanlarıKilitle();
-    void alanlarıAç();
-
-    void panodanYapıştır();
-    /// Lets the user choose a file and loads it into the article text; the text stays as it was when the
-    /// file can't be read.
-    /// @param yüklendi called after loading
-    void dosyadanYükle(const std::function<void()>& yüklendi = {});
+    /// A file has been loaded into the article text.
+    virtual void dosyaYüklendi() {}
+    /// The five fields in the order of their labels.
+    std::array<QWidget*, 5> alanlar();
 
     AnaForm& anaForm_;
     std::array<QLabel, 5> Etiket;
@@ -61,7 +55,11 @@ private:
     void yerleştir();
     void tuşlarıBağla();
     void odaklarıBağla();
-    std::array<QWidget*, 5> alanlar();
+    /// Replaces the article text by the clipboard's.
+    void panodanYapıştır();
+    /// Lets the user choose a file and loads it into the article text, which stays as it was when the file
+    /// can't be read.
+    void dosyadanYükle();
     /// Trims a field's text and brings it into its form; done when the focus leaves the field.
     void alanıDüzelt(QWidget& alan);
     AyrılışDenetimi::Karar tarihiDenetle();

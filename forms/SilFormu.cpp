@@ -111,16 +111,13 @@ void SilFormu::olaylarıBağla()
 void SilFormu::Form_Load()
 {
     İlkHatadaBit([this] {
-        Recordset kayıtlar = Veritabanı->OpenRecordset(
-            QStringLiteral("SELECT [MakaleBasligi] FROM [Makaleler] ORDER BY [MakaleBasligi] ASC"));
-        if (kayıtlar.Bof() && kayıtlar.Eof())
+        const QStringList başlıklar =
+            SütunuOku(QStringLiteral("SELECT [MakaleBasligi] FROM [Makaleler] ORDER BY [MakaleBasligi] ASC"),
+                      u"MakaleBasligi");
+        if (başlıklar.isEmpty())
             return;
-        QStringList başlıklar;
-        for (kayıtlar.MoveFirst(); !kayıtlar.Eof(); kayıtlar.MoveNext())
-            başlıklar.append(kayıtlar.Fields(u"MakaleBasligi").Value());
         MakaleListesi.AddItems(başlıklar);
-        toplamıYaz(kayıtlar.RecordCount());
-        kayıtlar.Close();
+        toplamıYaz(başlıklar.size());
         MakaleListesi.ListIndex(0);
     });
 }
@@ -133,24 +130,27 @@ void SilFormu::toplamıYaz(qint64 sayı)
 void SilFormu::MakaleListesi_Click()
 {
     AdımAdım([this] {
+        ayrıntılarıBoşalt(); // what is shown must not be another article's
         Recordset kayıtlar = MakaleyiAç(MakaleListesi.Text());
         if (kayıtlar.Bof() && kayıtlar.Eof())
             return;
-        YazarAdıKutusu.Text(kayıtlar.Fields(u"YazarAdi").Value());
-        YayımYeriKutusu.Text(kayıtlar.Fields(u"YayimYeri").Value());
-        YayımTarihiKutusu.Text(kayıtlar.Fields(u"YayimTarihi").Value());
-        MakaleMetniKutusu.Text(kayıtlar.Fields(u"MakaleMetni").Value());
+        AdımAdım([&] { YazarAdıKutusu.Text(kayıtlar.Fields(u"YazarAdi").Value()); },
+                 [&] { YayımYeriKutusu.Text(kayıtlar.Fields(u"YayimYeri").Value()); },
+                 [&] { YayımTarihiKutusu.Text(kayıtlar.Fields(u"YayimTarihi").Value()); },
+                 [&] { MakaleMetniKutusu.Text(kayıtlar.Fields(u"MakaleMetni").Value()); });
     });
 }
 
 void SilFormu::MakaleBulKutusu_Change()
 {
-    if (MakaleBulKutusu.Text().isEmpty())
-        return;
-    const int sıra = MakaleListesi.ÖnekleBul(MakaleBulKutusu.Text());
-    MakaleListesi.ListIndex(sıra);
-    if (sıra < 0)
-        ayrıntılarıBoşalt();
+    AdımAdım([this] {
+        if (MakaleBulKutusu.Text().isEmpty())
+            return;
+        const int sıra = MakaleListesi.ÖnekleBul(MakaleBulKutusu.Text());
+        MakaleListesi.ListIndex(sıra);
+        if (sıra < 0)
+            ayrıntılarıBoşalt();
+    });
 }
 
 void SilFormu::ayrıntılarıBoşalt()
@@ -168,8 +168,10 @@ void SilFormu::MakaleListesi_KeyUp(int tuş)
 
 void SilFormu::SilButonu_Click()
 {
-    if (silinsinMi())
-        sil();
+    AdımAdım([this] {
+        if (silinsinMi())
+            sil();
+    });
 }
 
 bool SilFormu::silinsinMi()

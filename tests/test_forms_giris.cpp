@@ -255,8 +255,10 @@ void TestEntryWindows::typedKeysAndLeaving()
         QTest::keyClick(&p.Metin(), Qt::Key_Backtab);
         QCOMPARE(p.Metin().Text(), u"o'n\n e"_s);
         QTRY_COMPARE(p.Tarih().selectedText(), u"Şubat 2003"_s);
-        p.Yazar().lineEdit()->insert(u"o'neil\tx"_s); // as pasted
+        p.Yazar().setFocus();
+        p.Yazar().lineEdit()->setText(u"o'neil\tx\u2029\u00ad😀"_s + QChar(0xd83d)); // as pasted
         QTest::keyClick(&p.Yazar(), Qt::Key_Tab);
+        QCOMPARE(p.Yazar().Text(), u"o'neil x \u00ad😀"_s);
     });
 }
 
@@ -376,6 +378,8 @@ void TestEntryWindows::pasteAndLimits()
         QApplication::clipboard()->setText(u"yeni\r\nmetin"_s + QChar(0) + u"\u00a0!"_s);
         p.Bas(u"YapıştırButonu"_s);
         QCOMPARE(p.Metin().Text(), u"yeni\nmetin\u00a0!"_s);
+        p.Metin().undo();
+        QCOMPARE(p.Metin().Text(), u"önceki"_s);
     });
 }
 
@@ -492,6 +496,9 @@ void TestEntryWindows::changeCancelledOrNothingSelected()
 {
     changing([&](Pencere p) {
         p.Başlık().Text(u"BAŞKA"_s);
+        QTest::keyClick(&p.Başlık(), Qt::Key_Escape);
+        QVERIFY(p.Kutu.isVisible());
+        QCOMPARE(p.Odak(), u"VazgeçDüğmesi"_s);
         p.Bas(u"VazgeçDüğmesi"_s);
     });
     QCOMPARE(stored(), Örnek);
