@@ -17,12 +17,19 @@ constexpr int İçHata = 51;
 
 } // namespace
 
+ÇalışmaHatası::ÇalışmaHatası(int numara, const QString& açıklama)
+    : numara_(numara), açıklama_(açıklama), bayt_(açıklama.toUtf8())
+{
+}
+
 HataBilgisi ŞimdikiHata()
 {
     try {
         throw;
     } catch (const VeritabanıHatası& hata) {
         return {static_cast<int>(hata.Numara()), hata.Açıklama()};
+    } catch (const ÇalışmaHatası& hata) {
+        return {hata.Numara(), hata.Açıklama()};
     } catch (const std::bad_alloc&) {
         return {YetersizBellek, QStringLiteral("Yetersiz bellek.")};
     } catch (const std::exception& hata) {
@@ -32,12 +39,16 @@ HataBilgisi ŞimdikiHata()
     }
 }
 
+QString HataMetni(int metin, const HataBilgisi& hata)
+{
+    return QStringLiteral("%1\n\n%2 %3\n\n%4 %5")
+        .arg(Metin(metin), Metin(15), QString::number(hata.Numara), Metin(20), hata.Açıklama);
+}
+
 void HataBildirVeÇık(const HataBilgisi& hata)
 {
     std::fprintf(stderr, "belgenar: %d %s\n", hata.Numara, qUtf8Printable(hata.Açıklama));
-    İletiGöster(QStringLiteral("%1\n\n%2 %3\n\n%4 %5")
-                    .arg(Metin(10), Metin(15), QString::number(hata.Numara), Metin(20), hata.Açıklama),
-                İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
+    İletiGöster(HataMetni(10, hata), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
     ProgramıBitir(1);
 }
 

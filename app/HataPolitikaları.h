@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <exception>
 #include <utility>
 
 struct HataBilgisi
@@ -12,8 +13,28 @@ struct HataBilgisi
     QString Açıklama;
 };
 
+/// Thrown by app/ where the operating system or another program fails. Carries the customary number of
+/// the run-time error and a Turkish sentence for the user.
+class ÇalışmaHatası : public std::exception
+{
+public:
+    ÇalışmaHatası(int numara, const QString& açıklama);
+
+    int Numara() const noexcept { return numara_; }
+    const QString& Açıklama() const noexcept { return açıklama_; }
+    const char* what() const noexcept override { return bayt_.constData(); }
+
+private:
+    int numara_;
+    QString açıklama_;
+    QByteArray bayt_; // the description as UTF-8, for what()
+};
+
 /// The exception being handled; to be called inside a catch block only.
 HataBilgisi ŞimdikiHata();
+
+/// What users are told of an error: the text with this number, then the error's number and description.
+QString HataMetni(int metin, const HataBilgisi& hata);
 
 /// Shows the error with its number and description, and ends the program. Does not return.
 [[noreturn]] void HataBildirVeÇık(const HataBilgisi& hata);
