@@ -18,6 +18,8 @@ QString MakaleYazıTipi;
 qint16 YazıBoyutuSırası = 2;
 qint16 ZeminRengiSırası = 0;
 
+bool YazdırmaİptalEdildi = false;
+
 void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir)
 {
     Motor.emplace(bildir);

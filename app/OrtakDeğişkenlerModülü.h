@@ -41,5 +41,8 @@ extern QString MakaleYazıTipi;
 extern qint16 YazıBoyutuSırası; ///< index for YazıBoyutu
 extern qint16 ZeminRengiSırası; ///< index for ZeminRengi
 
+/// The printer-choice window was left by its cancel button. Whoever opens the window sets it to false before.
+extern bool YazdırmaİptalEdildi;
+
 /// "1.00": major, point, then minor and revision side by side.
 QString SürümMetni();
