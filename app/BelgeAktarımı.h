@@ -1,0 +1,15 @@
+// Hands a document to a word processor, which is a program of its own.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Starts the program with the document in a file that only this user can read; the program shows it as a
+/// new, untitled one. Returns once the program has read it, has ended well (it does so when it runs
+/// already), or after five seconds at most; meanwhile windows paint and take no input.
+/// The program outlives this one. The file goes once it was read.
+/// @param program path of the executable
+/// @param belge RTF
+/// @throw ÇalışmaHatası 75 the file can't be written, 429 the program can't be started, 440 it ended with
+/// an error
+void BelgeAktar(const QString& program, const QByteArray& belge);
