@@ -1,0 +1,237 @@
+// Printers, the window that chooses one, and the hand-over to the word processor.
+#include "DenemeProgramı.h"
+
+#include "app/HataPolitikaları.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "app/RtfBelgesi.h"
+#include "app/WordBasic.h"
+#include "app/Yazıcılar.h"
+#include "forms/YazıcıSeçmeFormu.h"
+
+#include <QClipboard>
+#include <QLocalServer>
+#include <QMimeData>
+#include <QTest>
+
+#include <chrono>
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+class TestPrinting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void rtf_data();
+    void rtf();
+    void handOver_data();
+    void handOver();
+    void handOverOfTheClipboard();
+    void leftovers();
+    void choice_data();
+    void choice();
+    void stuckService();
+
+private:
+    /// Puts a stand-in for the word processor on the path, which notes what it is given.
+    void standIn(const QString& end, const char* shell = "/bin/sh")
+    {
+        QFile program(folder_->filePath(u"soffice"_s));
+        QVERIFY(program.open(QIODevice::WriteOnly));
+        const QString text = u"#!%1\ncd '%2'\nprintf '%s\n' \"$1\" \"$2\" >args\n"
+                             "read_it() { cp \"$3\" copy; stat -c %a \"$3\" \"${3%/*}\" >>args; }\n%3\n"_s;
+        program.write(text.arg(QString::fromLatin1(shell), folder_->path(), end).toUtf8());
+        program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QByteArray noted(const QString& name) const
+    {
+        QFile file(folder_->filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList temporary() const
+    {
+        return QDir(folder_->filePath(u"tmp"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+
+    const QString temp_ = QDir::tempPath();
+    std::unique_ptr<QTemporaryDir> folder_;
+    QByteArray path_ = qgetenv("PATH");
+    QLocalServer stuck_;
+};
+
+void TestPrinting::initTestCase()
+{
+    QVERIFY(stuck_.listen(u"%1/belgenar-test-%2"_s.arg(temp_).arg(QCoreApplication::applicationPid())));
+    qputenv("CUPS_SERVER", QFile::encodeName(stuck_.fullServerName())); // connects and never answers
+}
+
+void TestPrinting::init()
+{
+    folder_ = std::make_unique<QTemporaryDir>(temp_ + u"/belgenar-test-XXXXXX"_s);
+    QDir(folder_->path()).mkdir(u"tmp"_s);
+    qputenv("TMPDIR", QFile::encodeName(folder_->filePath(u"tmp"_s)));
+    qputenv("PATH", QFile::encodeName(folder_->path()) + ':' + path_);
+}
+
+void TestPrinting::rtf_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("body");
+    QTest::newRow("empty") << QString() << QByteArray("}");
+    QTest::newRow("Turkish") << u"aığİ"_s << QByteArray("a\\u305?\\u287?\\u304?\\par}");
+    QTest::newRow("its own signs") << u"{\\}"_s << QByteArray("\\{\\\\\\}\\par}");
+    QTest::newRow("breaks of all kinds")
+        << u"a\nb\r\nc\rd"_s << QByteArray("a\\par\nb\\par\nc\\par\nd\\par}");
+    QTest::newRow("break at the end") << u"a\n"_s << QByteArray("a\\par\n\\par}");
+    QTest::newRow("blanks") << u"\t \u00a0"_s << QByteArray("\\tab  \\~\\par}");
+    QTest::newRow("negative numbers") << u"\uFFFD"_s << QByteArray("\\u-3?\\par}");
+    QTest::newRow("beyond the BMP") << u"𝒜"_s << QByteArray("\\u-10187?\\u-9060?\\par}");
+    QTest::newRow("control characters")
+        << u"a"_s + QChar(u'\0') + QChar(0x1b) + u'b' << QByteArray("ab\\par}");
+}
+
+void TestPrinting::rtf()
+{
+    QFETCH(QString, text);
+    const QByteArray document = RtfBelgesi(text);
+    QVERIFY(document.startsWith("{\\rtf1"));
+    QTEST(document.mid(RtfBelgesi({}).size() - 1), "body");
+}
+
+void TestPrinting::handOver_data()
+{
+    QTest::addColumn<QString>("end"); // what the stand-in does
+    QTest::addColumn<int>("number");  // of the error that is reported
+    QTest::newRow("ends well") << u"read_it \"$@\""_s << 0;
+    QTest::newRow("goes on") << u"read_it \"$@\"; exec sleep 5"_s << 0;
+    QTest::newRow("reads and fails") << u"read_it \"$@\"; exit 3"_s << 440;
+    QTest::newRow("fails later") << u"sleep 0.5; exit 1"_s << 440;
+    QTest::newRow("crashes") << u"kill -9 $$"_s << 440;
+    QTest::newRow("can't be run") << QString() << 429;
+}
+
+void TestPrinting::handOver()
+{
+    QFETCH(QString, end);
+    QFETCH(int, number);
+    standIn(end, number == 429 ? "/no/such/shell" : "/bin/sh");
+    KutuYanıtlayıcı box(KutuYanıtlayıcı::Yanıt::Tamam);
+    QElapsedTimer clock;
+    clock.start();
+    WordeAktar([](WordBasic& word) { word.Insert(u"ığ\nson"_s); });
+    QVERIFY(clock.elapsed() < 4000);
+    QCOMPARE(box.Sayı, number == 0 ? 0 : 1);
+    if (number != 0) {
+        const QString start =
+            u"Aşağıdaki hata nedeniyle Word başlatılamadı!\n\nHata Kodu: %1\n\nHata Mesajı: "_s;
+        QVERIFY2(box.Metin.startsWith(start.arg(number)), qPrintable(box.Metin));
+        QCOMPARE(temporary(), QStringList());
+        return;
+    }
+    QCOMPARE(noted(u"args"_s), QByteArray("--writer\n-n\n600\n700\n"));
+    QCOMPARE(noted(u"copy"_s), RtfBelgesi(u"ığ\nson"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(temporary(), QStringList(), 12000);
+}
+
+void TestPrinting::handOverOfTheClipboard()
+{
+    const QByteArray rtf("{\\rtf1\\ansi {\\b Ad}}");
+    for (const bool formatted : {true, false}) {
+        auto* content = new QMimeData;
+        content->setText(u"düz"_s);
+        content->setData(u"text/rtf"_s, formatted ? rtf : QByteArray("not RTF"));
+        QGuiApplication::clipboard()->setMimeData(content);
+        standIn(u"read_it \"$@\""_s);
+        WordeAktar([](WordBasic& word) { word.EditPaste(); });
+        QCOMPARE(noted(u"copy"_s), formatted ? rtf : RtfBelgesi(u"düz"_s));
+    }
+    QFile::remove(folder_->filePath(u"soffice"_s));
+    qputenv("PATH", QFile::encodeName(folder_->path()));
+    KutuYanıtlayıcı box(KutuYanıtlayıcı::Yanıt::Tamam);
+    WordeAktar([](WordBasic&) { QFAIL("there is none to fill"); });
+    QCOMPARE(box.Metin, u"Bilgisayarınızda \"Microsoft Word\" kurulu olmadığı için işlem yapılamıyor!"_s);
+}
+
+void TestPrinting::leftovers()
+{
+    standIn(u"read_it \"$@\""_s);
+    const QDir tmp(folder_->filePath(u"tmp"_s));
+    for (const QString& name : {u"belgenar-belge-eski"_s, u"belgenar-belge-yeni"_s, u"baska"_s})
+        QVERIFY(tmp.mkpath(name + u"/x"_s));
+    for (const QString& name : {u"belgenar-belge-eski"_s, u"baska"_s})
+        std::filesystem::last_write_time(QFile::encodeName(tmp.filePath(name)).constData(),
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::minutes(3));
+    WordeAktar([](WordBasic&) {});
+    QVERIFY(!temporary().contains(u"belgenar-belge-eski"_s));
+    QVERIFY(temporary().contains(u"belgenar-belge-yeni"_s) && temporary().contains(u"baska"_s));
+}
+
+void TestPrinting::choice_data()
+{
+    QTest::addColumn<int>("printers");
+    QTest::addColumn<std::function<void(YazıcıSeçmeFormu&, QPushButton&, QPushButton&)>>("act");
+    QTest::addColumn<QString>("current"); // afterwards
+    QTest::addColumn<bool>("cancelled");
+    QTest::addColumn<bool>("closed");
+    using F = YazıcıSeçmeFormu;
+    using B = QPushButton;
+    const auto row = [](const char* name, int printers, std::function<void(F&, B&, B&)> act,
+                        const QString& current, bool cancelled, bool closed = true) {
+        QTest::newRow(name) << printers << act << current << cancelled << closed;
+    };
+    row(
+        "Tamam", 3, [](F&, B& ok, B&) { ok.click(); }, u"c"_s, false);
+    row(
+        "Enter", 3, [](F& f, B&, B&) { QTest::keyClick(f.focusWidget(), Qt::Key_Return); }, u"c"_s, false);
+    row(
+        "İptal", 3, [](F&, B&, B& cancel) { cancel.click(); }, u"b"_s, true);
+    row(
+        "Esc", 3, [](F& f, B&, B&) { QTest::keyClick(&f, Qt::Key_Escape); }, u"b"_s, true);
+    row(
+        "title bar", 3, [](F& f, B&, B&) { f.close(); }, u"b"_s, false);
+    row(
+        "none to choose", 0, [](F&, B& ok, B&) { ok.click(); }, u"b"_s, false, false);
+    row(
+        "current one gone", 1, [](F&, B& ok, B&) { ok.click(); }, u"b"_s, false, false);
+}
+
+void TestPrinting::choice()
+{
+    QFETCH(int, printers);
+    QFETCH(std::function<void(YazıcıSeçmeFormu&, QPushButton&, QPushButton&)>, act);
+    GeçerliYazıcı(u"b"_s);
+    YazdırmaİptalEdildi = false;
+    YazıcıSeçmeFormu form(
+        QList<Yazıcı>({{u"a"_s, u"usb:1"_s}, {u"b"_s, {}}, {u"c"_s, u"ipp:3"_s}}).first(printers));
+    const auto child = [&form](const QString& name) { return form.findChild<QWidget*>(name); };
+    auto& list = *static_cast<AçılırListe*>(child(u"YazıcıAdlarıKutusu"_s));
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QCOMPARE(list.Text(), printers == 3 ? u"b"_s : QString());
+    if (printers == 3) {
+        list.ListIndex(2);
+        QCOMPARE(static_cast<MetinKutusu*>(child(u"BağlantıNoktasıKutusu"_s))->Text(), u"ipp:3"_s);
+    }
+    act(form, *static_cast<QPushButton*>(child(u"TamamDüğmesi"_s)),
+        *static_cast<QPushButton*>(child(u"İptalDüğmesi"_s)));
+    QTEST(GeçerliYazıcı(), "current");
+    QTEST(YazdırmaİptalEdildi, "cancelled");
+    QTEST(!form.isVisible(), "closed");
+}
+
+void TestPrinting::stuckService()
+{
+    GeçerliYazıcı(u"b"_s);
+    MetinYazdır({}, u"Liberation Sans"_s, 10); // nothing to print: nobody is asked
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY_THROWS_EXCEPTION(ÇalışmaHatası, MetinYazdır(u"x"_s, u"Liberation Sans"_s, 10));
+    QVERIFY(clock.elapsed() < 7000);
+}
+
+QTEST_MAIN(TestPrinting)
+#include "test_yazdirma.moc"
