@@ -1,0 +1,48 @@
+// For the end-to-end test of printing, without the program's windows.
+//   yazdirma_denemesi               lists the printers, the current one first
+//   yazdirma_denemesi PRINTER       prints standard input; "" stands for the current printer
+// Ends with 2 where the printer is the fault.
+#include "app/HataPolitikaları.h"
+#include "app/Yazıcılar.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <cstdio>
+
+namespace {
+
+void listele()
+{
+    std::printf("%s\n", qUtf8Printable(GeçerliYazıcı()));
+    const QList<Yazıcı> yazıcılar = Yazıcılar();
+    for (const Yazıcı& yazıcı : yazıcılar)
+        std::printf("%s\t%s\n", qUtf8Printable(yazıcı.Ad), qUtf8Printable(yazıcı.BağlantıNoktası));
+}
+
+void yazdır(const QString& yazıcı)
+{
+    if (!yazıcı.isEmpty())
+        GeçerliYazıcı(yazıcı);
+    QFile dosya;
+    if (dosya.open(stdin, QIODevice::ReadOnly))
+        MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication uygulama(argc, argv);
+    const QStringList sözcükler = QCoreApplication::arguments();
+    try {
+        if (sözcükler.size() < 2)
+            listele();
+        else
+            yazdır(sözcükler[1]);
+        return 0;
+    } catch (const ÇalışmaHatası& hata) {
+        std::fprintf(stderr, "%d %s\n", hata.Numara(), hata.what());
+        return hata.Numara() == 482 ? 2 : 1;
+    }
+}
