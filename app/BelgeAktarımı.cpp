@@ -27,9 +27,10 @@ constexpr int EnUzunBekleme = 5000;
 constexpr int OkuduktanSonra = 1000; // one that ends with an error after it opened the document still failed
 constexpr int BakışAralığı = 20;
 
-// When the file may go, in ms. The program opens it, loads it (a minute for 20 MB) and closes it; the
-// document it shows is a copy of its own. It may also wait with a question before it opens anything, for as
-// long as the user likes: a file that was never opened stays while the program runs, and a while after that.
+// When the file may go, in ms. The program opens it a few times within half a second and then loads it,
+// for a minute where it is of 20 MB; what it holds open it can read although the file is gone, and what it
+// shows is a copy of its own. It may also wait with a question before it opens anything, for as long as the
+// user likes: a file that was never opened stays while the program runs, and a while after that.
 constexpr int DenetimAralığı = 2000;
 constexpr int OkunmuşDinlenme = 5000;
 constexpr int OkunmamışBekleme = 120'000;
@@ -75,7 +76,7 @@ public:
     void ProgramBiterkenBırak()
     {
         gözcü_->Bak();
-        klasör_.setAutoRemove(gözcü_->Okundu(0) || bitti());
+        klasör_.setAutoRemove(gözcü_->Okundu(OkuduktanSonra) || bitti());
     }
 
 private:

@@ -19,17 +19,14 @@ DosyaGözcüsü::~DosyaGözcüsü()
 
 void DosyaGözcüsü::Bak()
 {
+    // Openings and closings can't be counted: equal notices in a row come as one.
     alignas(inotify_event) char tampon[4096];
     ssize_t okunan = 0;
     while (uç_ >= 0 && (okunan = read(uç_, tampon, sizeof tampon)) > 0) {
         for (ssize_t yer = 0; yer < okunan;) {
             const auto* olay = reinterpret_cast<const inotify_event*>(tampon + yer);
-            if (olay->mask & IN_OPEN) {
+            if (olay->mask & IN_OPEN)
                 açıldı_ = true;
-                ++açık_;
-            }
-            if (olay->mask & IN_CLOSE)
-                --açık_;
             yer += static_cast<ssize_t>(sizeof *olay + olay->len);
         }
         sonOlay_.start();

@@ -17,13 +17,12 @@ public:
     /// Takes in what has happened since the last look.
     void Bak();
     bool Açıldı() const { return açıldı_; }
-    /// Whether it was opened and closed, and nothing more happened in the looks of that time.
+    /// Whether it was opened, and then neither opened nor closed any more for that long.
     /// @param dinlenme ms
-    bool Okundu(int dinlenme) const { return açıldı_ && açık_ <= 0 && sonOlay_.elapsed() >= dinlenme; }
+    bool Okundu(int dinlenme) const { return açıldı_ && sonOlay_.elapsed() >= dinlenme; }
 
 private:
     int uç_;
-    int açık_ = 0; // openings that were not closed yet
     bool açıldı_ = false;
     QElapsedTimer sonOlay_;
 };
