@@ -45,7 +45,9 @@ void WordBasic::Insert(const QString& metin)
 void WordBasic::EditPaste()
 {
     const QMimeData* pano = QGuiApplication::clipboard()->mimeData();
-    const QStringList biçimler = pano ? pano->formats() : QStringList(); // one question to the owner
+    if (!pano)
+        return;
+    const QStringList biçimler = pano->formats(); // one question to the owner
     for (const QString& biçim : {QStringLiteral("text/rtf"), QStringLiteral("application/rtf")}) {
         const QByteArray rtf = biçimler.contains(biçim) ? pano->data(biçim) : QByteArray();
         if (rtf.startsWith("{\\rtf")) {
