@@ -6,6 +6,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <memory>
 #include <utility>
 
 namespace {
@@ -61,6 +62,12 @@ QString nulSuz(QString metin)
     return metin.remove(QChar(u'\0'));
 }
 
+QString satırlı(QString metin)
+{
+    metin.replace(QChar::ParagraphSeparator, u'\n');
+    return metin.replace(QChar::LineSeparator, u'\n'); // what Shift+Enter types
+}
+
 bool kırpılır(QChar harf)
 {
     return harf == u' ';
@@ -77,9 +84,29 @@ ZenginMetinKutusu::ZenginMetinKutusu(QWidget* üst) : TuşOlaylı<QPlainTextEdit
 // The widget's own plain text turns no-break spaces into blanks.
 QString ZenginMetinKutusu::Text() const
 {
-    QString metin = document()->toRawText();
-    metin.replace(QChar::ParagraphSeparator, u'\n');
-    return metin.replace(QChar::LineSeparator, u'\n'); // what Shift+Enter types
+    return satırlı(document()->toRawText());
+}
+
+QString ZenginMetinKutusu::SelText() const
+{
+    return satırlı(textCursor().selectedText());
+}
+
+void ZenginMetinKutusu::Seç(int yer, int uzunluk)
+{
+    QTextCursor imleç = textCursor();
+    const int son = document()->characterCount() - 1;
+    imleç.setPosition(std::clamp(yer, 0, son));
+    imleç.setPosition(std::clamp(yer + uzunluk, 0, son), QTextCursor::KeepAnchor);
+    setTextCursor(imleç);
+}
+
+// Plain text only, letter for letter: formats here are marks and leftovers of a file.
+QMimeData* ZenginMetinKutusu::createMimeDataFromSelection() const
+{
+    auto veri = std::make_unique<QMimeData>();
+    veri->setText(SelText());
+    return veri.release();
 }
 
 void ZenginMetinKutusu::Text(const QString& metin)

@@ -31,6 +31,11 @@ public:
 
     /// Where the selection begins, or the caret stands.
     int SelStart() const { return textCursor().selectionStart(); }
+    int SelLength() const { return textCursor().selectionEnd() - textCursor().selectionStart(); }
+    /// The selected text with "\n" as line break; every other unit as it was set.
+    QString SelText() const;
+    /// Selects a stretch; its end becomes the caret.
+    void Seç(int yer, int uzunluk);
     /// Puts the caret at a place, at the text's end where that lies beyond it; selects nothing and
     /// does not scroll.
     void SelStart(int yer);
@@ -48,6 +53,7 @@ public:
     void BackColor(Renk renk);
 
 protected:
+    QMimeData* createMimeDataFromSelection() const override;
     void insertFromMimeData(const QMimeData* veri) override;
 
 private:

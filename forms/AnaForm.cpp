@@ -66,7 +66,8 @@ void AnaForm::kontrolleriKur()
 
     YazdırKutusu.hide();
     MakaleMetniKutusu.YalnızOkunur();
-    MakaleMetniKutusu.setContextMenuPolicy(Qt::PreventContextMenu);
+    MakaleListesi.setContextMenuPolicy(Qt::CustomContextMenu);
+    MakaleMetniKutusu.setContextMenuPolicy(Qt::CustomContextMenu);
     for (QLabel* etiket : {&ToplamYazarSayısıEtiketi, &ToplamMakaleSayısıEtiketi})
         etiket->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (QPushButton* düğme : {&BulButonu, &TemizleButonu, &TümündeBulButonu})
@@ -111,9 +112,8 @@ void AnaForm::menüleriKur()
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe : {&ReferansOluşturMenüsü, &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü,
-                         &WordeYapıştırMenüsü, &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü,
-                         &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe : {&AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü,
+                         &HatalarıBildirinMenüsü, &HakkındaMenüsü})
         öğe->setEnabled(false);
 }
 
@@ -134,6 +134,7 @@ void AnaForm::olaylarıBağla()
     MakaleListesi.Click = [this] { MakaleListesi_Click(); };
     bulmaOlaylarınıBağla();
     menüOlaylarınıBağla();
+    metinOlaylarınıBağla();
     connect(&ÇıkışButonu, &QPushButton::clicked, this, &AnaForm::ÇıkışButonu_Click);
     connect(&Sınırla, &QTimer::timeout, this, &AnaForm::Sınırla_Timer);
     auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), this);

@@ -133,7 +133,18 @@ private:
     void MakaleEkleMenüsü_Click();
     void MakeleDeğiştirMenüsü_Click();
     void MakaleSilMenüsü_Click();
+    void ReferansOluşturMenüsü_Click();
     void değişeniSeç();
+
+    // What is done with the shown text
+    void metinOlaylarınıBağla();
+    void MakaleListesi_MouseDown(const QPoint& yer);
+    void MakaleMetniKutusu_MouseUp(const QPoint& yer);
+    void TümünüSeçMenüsü_Click();
+    void KopyalaMenüsü_Click();
+    void YazdırMenüsü_Click();
+    void WordeYapıştırMenüsü_Click();
+    void yazdır();
 
     // Layout
     void Form_Resize();

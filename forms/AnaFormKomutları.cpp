@@ -7,6 +7,7 @@
 #include "app/İletiKutusu.h"
 #include "forms/DeğiştirFormu.h"
 #include "forms/EkleFormu.h"
+#include "forms/ReferansFormu.h"
 #include "forms/SilFormu.h"
 
 #include <QScopeGuard>
@@ -16,6 +17,7 @@ void AnaForm::menüOlaylarınıBağla()
     connect(&MakaleEkleMenüsü, &QAction::triggered, this, &AnaForm::MakaleEkleMenüsü_Click);
     connect(&MakeleDeğiştirMenüsü, &QAction::triggered, this, &AnaForm::MakeleDeğiştirMenüsü_Click);
     connect(&MakaleSilMenüsü, &QAction::triggered, this, &AnaForm::MakaleSilMenüsü_Click);
+    connect(&ReferansOluşturMenüsü, &QAction::triggered, this, &AnaForm::ReferansOluşturMenüsü_Click);
 }
 
 void AnaForm::MakaleEkleMenüsü_Click()
@@ -63,4 +65,9 @@ void AnaForm::MakaleSilMenüsü_Click()
             form.Seç(SeçiliMakale());
         form.exec();
     });
+}
+
+void AnaForm::ReferansOluşturMenüsü_Click()
+{
+    Olay("ReferansOluşturMenüsü_Click", [this] { ReferansFormu(SeçiliMakale()).exec(); });
 }

@@ -6,7 +6,7 @@ export LC_ALL=C.UTF-8 # window captions and file names are not ASCII; always the
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlcipher-dev libicu-dev libcups2-dev"
 RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation x11-utils"
 VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
-TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES cups-daemon cups-client cups-filters poppler-utils"
+TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES cups-daemon cups-client cups-filters poppler-utils xclip"
 
 die() {
     echo "$*" >&2

@@ -5,6 +5,7 @@ set -u
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . scripts/ortak.sh
+. tests/yazdırma.sh
 
 work=$(mktemp -d)
 folder=$work/Belgenar
@@ -143,6 +144,38 @@ eventually active_is "$caption"
 kill -TERM "$program"
 eventually ended
 check "değiştirilen makale silinmiştir" same_library
+
+# Printing, the word processor (a stand-in that keeps what it was given), a reference.
+mkdir "$work/bin"
+printf '#!/bin/sh\nfor file; do :; done\ncp "$file" "%s"\nsleep 3\n' "$work/belge.rtf" >"$work/bin/soffice"
+chmod +x "$work/bin/soffice"
+text_menu() { key alt+n Menu; key "$@"; sleep 0.3; } # text_menu KEY...: an entry of the shown text's menu
+if start_print_service "$work"; then
+    PATH=$work/bin:$PATH start
+    text_menu Down Down Return
+    check "yazıcı sorulur" eventually active_is "Yazıcı Seç"
+    key Return
+    paper() { printed "$work" | grep -q "kırk beş saniye"; }
+    check "makale kâğıda basılır" paper
+    kill -TERM "$program"
+    eventually ended
+    stop_print_service
+else
+    echo "skipped: bu makinede yazdırma hizmeti çalıştırılamıyor"
+fi
+PATH=$work/bin:$PATH start
+key alt+n ctrl+a
+text_menu w
+check "metin kelime işlemciye gider" eventually grep -qsF '{\rtf1' "$work/belge.rtf"
+sleep 2 # until the program is sure that the other one stays
+menu r
+check "referans penceresi açılır" eventually active_is "Referans Bilgisi Oluşturma..."
+key Tab Return
+cited() { xclip -o -selection clipboard -t UTF8_STRING | grep -qx 'Cevdet Özpınar, "Depremle Yaşamak", Kocaeli, 17 Ağustos 2001'; }
+check "referans panoya kopyalanır" eventually cited
+key Escape
+kill -TERM "$program"
+check "kelime işlemciden sonra kapanır" eventually ended
 
 # Second start: at a stored place; a second instance only brings the first one forward.
 sed -i 's/^Tam%20Ekran=.*/Tam%20Ekran=0\nSol=1500\nUst=1200/' "$settings"

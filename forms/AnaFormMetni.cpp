@@ -1,0 +1,80 @@
+// What the main window does with the shown text: pop-up menus, copying, printing, the word processor.
+#include "forms/AnaForm.h"
+
+#include "app/HataPolitikaları.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "app/WordBasic.h"
+#include "app/Yazıcılar.h"
+#include "app/İletiKutusu.h"
+#include "forms/YazıcıSeçmeFormu.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+void AnaForm::metinOlaylarınıBağla()
+{
+    connect(&MakaleListesi, &QWidget::customContextMenuRequested, this, &AnaForm::MakaleListesi_MouseDown);
+    connect(&MakaleMetniKutusu, &QWidget::customContextMenuRequested, this,
+            &AnaForm::MakaleMetniKutusu_MouseUp);
+    connect(&TümünüSeçMenüsü, &QAction::triggered, this, &AnaForm::TümünüSeçMenüsü_Click);
+    connect(&KopyalaMenüsü, &QAction::triggered, this, &AnaForm::KopyalaMenüsü_Click);
+    connect(&YazdırMenüsü, &QAction::triggered, this, &AnaForm::YazdırMenüsü_Click);
+    connect(&WordeYapıştırMenüsü, &QAction::triggered, this, &AnaForm::WordeYapıştırMenüsü_Click);
+}
+
+// The right button, or the keyboard's menu key.
+void AnaForm::MakaleListesi_MouseDown(const QPoint& yer)
+{
+    if (!MakaleListesi.Text().isEmpty())
+        MakaleMenüsü.popup(MakaleListesi.viewport()->mapToGlobal(yer));
+}
+
+void AnaForm::MakaleMetniKutusu_MouseUp(const QPoint& yer)
+{
+    for (QAction* öğe : {&KopyalaMenüsü, &WordeYapıştırMenüsü})
+        öğe->setEnabled(MakaleMetniKutusu.SelLength() != 0);
+    if (!MakaleMetniKutusu.document()->isEmpty())
+        MakaleMetniMenüsü.popup(MakaleMetniKutusu.viewport()->mapToGlobal(yer));
+}
+
+void AnaForm::TümünüSeçMenüsü_Click()
+{
+    MakaleMetniKutusu.selectAll();
+}
+
+void AnaForm::KopyalaMenüsü_Click()
+{
+    QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText());
+}
+
+void AnaForm::YazdırMenüsü_Click()
+{
+    AdımAdım([this] { yazdır(); });
+}
+
+void AnaForm::yazdır()
+{
+    const QList<Yazıcı> yazıcılar = Yazıcılar();
+    if (yazıcılar.isEmpty()) {
+        İletiGöster(QStringLiteral("Bilgisayarınızda yüklü bir YAZICI yok!\n\n"
+                                   "Lütfen, bir yazıcı yükleyip tekrar deneyiniz."),
+                    İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam, İletiYeri::Ekran);
+        return;
+    }
+    YazdırmaİptalEdildi = false;
+    YazıcıSeçmeFormu(yazıcılar, this).exec();
+    if (bitti_ || std::exchange(YazdırmaİptalEdildi, false))
+        return;
+    YazdırKutusu.FontName(MakaleMetniKutusu.FontName());
+    YazdırKutusu.FontSize(MakaleMetniKutusu.FontSize());
+    YazdırKutusu.Text(MakaleMetniKutusu.SelLength() == 0 ? MakaleMetniKutusu.Text()
+                                                         : MakaleMetniKutusu.SelText());
+    MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize());
+    YazdırKutusu.Text({});
+}
+
+void AnaForm::WordeYapıştırMenüsü_Click()
+{
+    Olay("WordeYapıştırMenüsü_Click",
+         [this] { WordeAktar([this](WordBasic& word) { word.Insert(MakaleMetniKutusu.SelText()); }); });
+}

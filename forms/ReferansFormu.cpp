@@ -1,0 +1,114 @@
+#include "forms/ReferansFormu.h"
+
+#include "app/HataPolitikaları.h"
+#include "app/Metinler.h"
+#include "app/OrtakApilerModülü.h"
+#include "app/OrtakDeğişkenlerModülü.h"
+#include "app/RtfBelgesi.h"
+#include "app/WordBasic.h"
+#include "text/TürkçeHarfler.h"
+
+#include <QClipboard>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <memory>
+
+namespace {
+
+constexpr int OlağanGenişlik = 7800; // twips
+constexpr int OlağanYükseklik = 2700;
+constexpr int SimgeBoyu = 720;
+
+} // namespace
+
+ReferansFormu::ReferansFormu(const QString& başlık)
+{
+    setObjectName(QStringLiteral("ReferansFormu"));
+    setFont(FormYazıTipi());
+    kontrolleriKur();
+    yerleştir();
+    connect(&KopyalaButonu, &QPushButton::clicked, this, &ReferansFormu::KopyalaButonu_Click);
+    connect(&WordeYapıştırButonu, &QPushButton::clicked, this, &ReferansFormu::WordeYapıştırButonu_Click);
+    connect(&KapatButonu, &QPushButton::clicked, this, &ReferansFormu::KapatButonu_Click);
+    TürkçeKarakterKümesiUygula(*this);
+    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+    İlkHatadaBit([&] { Form_Load(başlık); });
+}
+
+void ReferansFormu::kontrolleriKur()
+{
+    setWindowTitle(Metin(505));
+    ReferansBilgisiKutusu.setObjectName(QStringLiteral("ReferansBilgisiKutusu"));
+    ReferansBilgisiKutusu.setAccessibleName(SadeMetin(505));
+    ReferansBilgisiKutusu.YalnızOkunur();
+    SimgeKutusu.setObjectName(QStringLiteral("SimgeKutusu"));
+    SimgeKutusu.setPixmap(windowIcon().pixmap(Piksel(SimgeBoyu)));
+    KopyalaButonu.setObjectName(QStringLiteral("KopyalaButonu"));
+    KopyalaButonu.setText(Metin(90));
+    WordeYapıştırButonu.setObjectName(QStringLiteral("WordeYapıştırButonu"));
+    WordeYapıştırButonu.setText(Metin(100));
+    KapatButonu.setObjectName(QStringLiteral("KapatButonu"));
+    KapatButonu.setText(Metin(375));
+}
+
+void ReferansFormu::yerleştir()
+{
+    auto* ızgara = new QGridLayout(this);
+    ızgara->addWidget(&SimgeKutusu, 0, 0, Qt::AlignTop);
+    ızgara->addWidget(&ReferansBilgisiKutusu, 0, 1);
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addStretch();
+    düğmeler->addWidget(&KopyalaButonu);
+    düğmeler->addWidget(&WordeYapıştırButonu);
+    düğmeler->addWidget(&KapatButonu);
+    ızgara->addLayout(düğmeler, 1, 0, 1, 2);
+}
+
+void ReferansFormu::Form_Load(const QString& başlık)
+{
+    Recordset kayıtlar = Veritabanı->OpenRecordset(
+        QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]= '") + başlık + u'\'');
+    ReferansBilgisiKutusu.Text(Referans(kayıtlar.Fields(u"YazarAdi").Value(), başlık,
+                                        kayıtlar.Fields(u"YayimYeri").Value(),
+                                        kayıtlar.Fields(u"YayimTarihi").Value()));
+}
+
+QString ReferansFormu::Referans(const QString& yazar, const QString& başlık, const QString& yer,
+                                const QString& tarih)
+{
+    const qsizetype ayraç = yazar.lastIndexOf(u' ');
+    const QString soyadı = TürkçeÖzelAd(yazar.mid(ayraç + 1));
+    const QString adlar = ayraç < 0 ? QString() : TürkçeÖzelAd(yazar.left(ayraç)) + u' ';
+    QString satır =
+        adlar + soyadı + QStringLiteral(", \"") + TürkçeÖzelAd(başlık) + QStringLiteral("\", ") + yer;
+    if (!tarih.isEmpty())
+        satır += QStringLiteral(", ") + tarih;
+    return satır;
+}
+
+void ReferansFormu::KopyalaButonu_Click()
+{
+    QGuiApplication::clipboard()->setText(ReferansBilgisiKutusu.Text());
+}
+
+void ReferansFormu::WordeYapıştırButonu_Click()
+{
+    Olay("WordeYapıştırButonu_Click", [this] {
+        WordeAktar([this](WordBasic& word) {
+            const QByteArray rtf = RtfBelgesi(ReferansBilgisiKutusu.Text());
+            auto pano = std::make_unique<QMimeData>();
+            pano->setText(ReferansBilgisiKutusu.Text());
+            for (const QString& tür : {QStringLiteral("text/rtf"), QStringLiteral("application/rtf")})
+                pano->setData(tür, rtf);
+            QGuiApplication::clipboard()->setMimeData(pano.release());
+            word.EditPaste();
+        });
+    });
+}
+
+void ReferansFormu::KapatButonu_Click()
+{
+    accept();
+}

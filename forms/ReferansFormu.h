@@ -1,0 +1,33 @@
+// The window that composes an article's bibliographic reference.
+#pragma once
+
+#include "controls/Düğme.h"
+#include "controls/ZenginMetinKutusu.h"
+
+#include <QDialog>
+#include <QLabel>
+
+/// Modal, without an owner; composed anew at every opening.
+class ReferansFormu : public QDialog
+{
+public:
+    /// @param başlık title of the article, the first one that has it
+    explicit ReferansFormu(const QString& başlık);
+
+    /// "Given Names Surname, "Title", Place, Date". The surname is the last word of the author's name; a
+    /// name of one word stands alone. Without a date the line ends with the place.
+    static QString Referans(const QString& yazar, const QString& başlık, const QString& yer,
+                            const QString& tarih);
+
+private:
+    void kontrolleriKur();
+    void yerleştir();
+    void Form_Load(const QString& başlık);
+    void KopyalaButonu_Click();
+    void WordeYapıştırButonu_Click();
+    void KapatButonu_Click();
+
+    ZenginMetinKutusu ReferansBilgisiKutusu;
+    QLabel SimgeKutusu;
+    Düğme KopyalaButonu, WordeYapıştırButonu, KapatButonu;
+};
