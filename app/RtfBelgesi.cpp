@@ -51,11 +51,23 @@ void harfYaz(QByteArray& belge, char16_t harf)
     }
 }
 
+void yazıTipiniYaz(QByteArray& belge, const QString& ad, int nokta)
+{
+    belge.append("{\\fonttbl{\\f0 ");
+    for (const QChar harf : ad) {
+        if (harf != u';') // it ends the name
+            harfYaz(belge, harf.unicode());
+    }
+    belge.append(";}}\\f0\\fs" + QByteArray::number(2 * nokta) + ' ');
+}
+
 } // namespace
 
-QByteArray RtfBelgesi(QStringView metin)
+QByteArray RtfBelgesi(QStringView metin, const QString& yazıTipi, int nokta)
 {
     QByteArray belge(baş);
+    if (!yazıTipi.isEmpty())
+        yazıTipiniYaz(belge, yazıTipi, nokta);
     belge.reserve(metin.size() + metin.size() / 2 + 64); // Turkish texts take about that much
     for (qsizetype i = 0; i < metin.size(); ++i) {
         const char16_t harf = metin[i].unicode();

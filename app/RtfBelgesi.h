@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <QStringView>
 
-/// The text as an RTF 1.5 document in the reader's own font. Line breaks of any kind end paragraphs; tabs
+/// The text as an RTF 1.5 document. Line breaks of any kind end paragraphs; tabs
 /// and no-break spaces are kept, a form feed begins a page, other control characters are left out.
 /// An empty text gives an empty document.
-QByteArray RtfBelgesi(QStringView metin);
+/// @param yazıTipi family; the reader's own font where it is empty
+/// @param nokta points; used with a family only
+QByteArray RtfBelgesi(QStringView metin, const QString& yazıTipi = {}, int nokta = 0);

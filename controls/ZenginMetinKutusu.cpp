@@ -1,5 +1,7 @@
 #include "controls/ZenginMetinKutusu.h"
 
+#include "app/RtfBelgesi.h"
+
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -85,6 +87,11 @@ ZenginMetinKutusu::ZenginMetinKutusu(QWidget* üst) : TuşOlaylı<QPlainTextEdit
 QString ZenginMetinKutusu::Text() const
 {
     return satırlı(document()->toRawText());
+}
+
+QByteArray ZenginMetinKutusu::TextRTF() const
+{
+    return RtfBelgesi(Text(), FontName(), FontSize());
 }
 
 QString ZenginMetinKutusu::SelText() const

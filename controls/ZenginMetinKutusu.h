@@ -18,6 +18,8 @@ public:
 
     /// The whole text with "\n" as line break; every other unit as it was set.
     QString Text() const;
+    /// The whole text as an RTF document in the box's font, without marks.
+    QByteArray TextRTF() const;
     /// Replaces the whole text, without marks, and goes to its beginning.
     void Text(const QString& metin);
 

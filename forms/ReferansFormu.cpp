@@ -4,7 +4,6 @@
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "app/RtfBelgesi.h"
 #include "app/WordBasic.h"
 #include "text/TürkçeHarfler.h"
 
@@ -97,7 +96,7 @@ void ReferansFormu::WordeYapıştırButonu_Click()
 {
     Olay("WordeYapıştırButonu_Click", [this] {
         WordeAktar([this](WordBasic& word) {
-            const QByteArray rtf = RtfBelgesi(ReferansBilgisiKutusu.Text());
+            const QByteArray rtf = ReferansBilgisiKutusu.TextRTF();
             auto pano = std::make_unique<QMimeData>();
             pano->setText(ReferansBilgisiKutusu.Text());
             for (const QString& tür : {QStringLiteral("text/rtf"), QStringLiteral("application/rtf")})

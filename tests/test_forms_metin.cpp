@@ -2,6 +2,7 @@
 #include "DenemeProgramı.h"
 
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "controls/RtfOkuyucu.h"
 #include "forms/ReferansFormu.h"
 
 #include <QAction>
@@ -138,8 +139,8 @@ void TestTextCommands::references()
 
 void TestTextCommands::referenceWindow()
 {
-    const auto box = [](ReferansFormu& form) {
-        return static_cast<ZenginMetinKutusu*>(form.findChild<QWidget*>(u"ReferansBilgisiKutusu"_s))->Text();
+    const auto field = [](ReferansFormu& window) {
+        return static_cast<ZenginMetinKutusu*>(window.findChild<QWidget*>(u"ReferansBilgisiKutusu"_s));
     };
     ReferansFormu form(u"İNCE ÇİZGİ"_s);
     QCOMPARE(form.windowTitle(), u"Referans Bilgisi Oluşturma..."_s);
@@ -147,10 +148,13 @@ void TestTextCommands::referenceWindow()
     QCOMPARE(QApplication::clipboard()->text(), u"Ali Rıza Işık, \"İnce Çizgi\", İzmir, 01.02.2003"_s);
     for (const QString& title : {u"O'NEIL"_s, u""_s, u"YOK"_s}) { // the query fails, or finds nothing
         ReferansFormu empty(title);
-        QCOMPARE(box(empty), QString());
+        QCOMPARE(field(empty)->Text(), QString());
     }
+    const BiçimliMetin read = RtfOku(field(form)->TextRTF());
+    QCOMPARE(read.Metin.trimmed(), u"Ali Rıza Işık, \"İnce Çizgi\", İzmir, 01.02.2003"_s);
+    QCOMPARE(read.Parçalar.value(0).Biçim.YarımNokta, 18);
     ReferansFormu noDate(u"TARİHSİZ"_s);
-    QCOMPARE(box(noDate), u"Zeki Su, \"Tarihsiz\", Van"_s);
+    QCOMPARE(field(noDate)->Text(), u"Zeki Su, \"Tarihsiz\", Van"_s);
 }
 
 QTEST_MAIN(TestTextCommands)
