@@ -26,12 +26,11 @@ constexpr int OlağanYükseklik = 8400;
 constexpr int EnUzunBaşlık = 255; // letters
 constexpr int EnUzunYer = 50;
 constexpr int EnUzunTarih = 20;
-constexpr QStringView SonDosyaAnahtarı = u"Son Acilan";
 
 /// Where the file chosen last lies, else the user's documents; home where that folder is gone.
 QString başlangıçKlasörü()
 {
-    const QString son = AyarOku(SonDosyaAnahtarı, QString());
+    const QString son = AyarOku(Ayarlar::SonAçılan);
     const QString klasör = son.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                          : QFileInfo(son).absolutePath();
     return DosyaVar(klasör) ? klasör : QDir::homePath();
@@ -259,5 +258,5 @@ void MakaleGirişFormu::dosyadanYükle(const std::function<void()>& yüklendi)
     }
     if (yüklendi)
         yüklendi();
-    AyarYaz(SonDosyaAnahtarı, yol);
+    AyarYaz(Ayarlar::SonAçılan, yol);
 }

@@ -4,6 +4,8 @@
 
 #include "DenemeKitaplığı.h"
 
+#include "app/Ayarlar.h"
+#include "app/OrtakDeğişkenlerModülü.h"
 #include "forms/AnaForm.h"
 
 #include <QTemporaryDir>
@@ -21,11 +23,23 @@ public:
     ~DenemeProgramı();
 
     const QString& Klasör() const { return kitaplık_.Klasör(); }
+    QString AyarKlasörü() const { return ayarlar_.path(); }
 
 private:
     DenemeKitaplığı kitaplık_;
     QTemporaryDir ayarlar_;
 };
+
+/// What the store holds for a setting, as text; null where it holds nothing.
+template<class Değer> QString AyarMetni(const AyarAnahtarı<Değer>& ayar)
+{
+    return AyarMetniOku(AyarUygulamaAdı, AyarBölümü, ayar.Ad, {});
+}
+/// Puts any text into the store, also where a number is meant.
+template<class Değer> void AyarMetni(const AyarAnahtarı<Değer>& ayar, const QString& metin)
+{
+    AyarMetniYaz(AyarUygulamaAdı, AyarBölümü, ayar.Ad, metin);
+}
 
 /// Answers the next message box, once it stands, and keeps what it said.
 class KutuYanıtlayıcı

@@ -392,11 +392,11 @@ void TestEntryWindows::files()
             QCOMPARE(cancelled.Süzgeçler,
                      QStringList({u"Metin Dosyaları (*.txt)"_s, u"Zengin Metin Biçimi (*.rtf)"_s}));
         }
-        QCOMPARE(AyarOku(u"Son Acilan", u"yok"_s), u"yok"_s);
+        QCOMPARE(AyarOku(Ayarlar::SonAçılan, u"yok"_s), u"yok"_s);
         DosyaSeçici first(plain);
         p.Bas(u"DosyaYükleButonu"_s);
         QCOMPARE(p.Metin().Text(), u"birinci\nikinci ışık"_s);
-        QCOMPARE(AyarOku(u"Son Acilan", {}), plain);
+        QCOMPARE(AyarOku(Ayarlar::SonAçılan), plain);
     });
     changing([&](Pencere p) {
         DosyaSeçici second(rich);
@@ -427,7 +427,7 @@ void TestEntryWindows::unreadableFileLeavesTheText()
         p.Bas(u"DosyaYükleButonu"_s);
         QVERIFY2(box.Metin.contains(u"resim.txt"_s), qPrintable(box.Metin));
         QCOMPARE(p.Metin().Text(), u"önceki"_s);
-        QCOMPARE(AyarOku(u"Son Acilan", {}), QString());
+        QCOMPARE(AyarOku(Ayarlar::SonAçılan), QString());
     });
 }
 
