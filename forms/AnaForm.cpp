@@ -111,9 +111,9 @@ void AnaForm::menüleriKur()
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe : {&ReferansOluşturMenüsü, &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü,
-                         &WordeYapıştırMenüsü, &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü,
-                         &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe :
+         {&ReferansOluşturMenüsü, &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
+          &İçindekilerMenüsü, &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
         öğe->setEnabled(false);
 }
 
@@ -167,6 +167,7 @@ void AnaForm::Form_Load()
     başlıklarıKoy();
     pencereDurumunuOku();
     görünümAyarlarınıOku();
+    GörünümüUygula();
     YazarListesiYükle();
     sonYazarıSeç();
     yazarToplamınıYaz();
@@ -325,10 +326,15 @@ void AnaForm::MakaleListesi_Click()
 
 void AnaForm::makaleyiGöster(const QString& metin)
 {
+    GörünümüUygula();
+    MakaleMetniKutusu.Text(metin);
+}
+
+void AnaForm::GörünümüUygula()
+{
     MakaleMetniKutusu.FontName(MakaleYazıTipi);
     MakaleMetniKutusu.FontSize(YazıBoyutu(YazıBoyutuSırası));
     MakaleMetniKutusu.BackColor(ZeminRengi(ZeminRengiSırası));
-    MakaleMetniKutusu.Text(metin);
 }
 
 void AnaForm::ÖneGetir()

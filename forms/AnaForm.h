@@ -64,6 +64,9 @@ public:
     /// Empties the article list and the text: what is shown must belong to what is selected.
     void MakaleleriBoşalt();
 
+    /// Gives the article text the font, size and background that are in force now.
+    void GörünümüUygula();
+
     enum class Eksen
     {
         Yatay,
@@ -134,6 +137,8 @@ private:
     void MakeleDeğiştirMenüsü_Click();
     void MakaleSilMenüsü_Click();
     void değişeniSeç();
+    void AyarlarMenüsü_Click();
+    void AyarlarMenüsü1_Click();
 
     // Layout
     void Form_Resize();

@@ -5,10 +5,13 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "controls/OrtakHarf.h"
+#include "forms/AyarlarFormu.h"
 #include "forms/DeğiştirFormu.h"
 #include "forms/EkleFormu.h"
 #include "forms/SilFormu.h"
 
+#include <QMenuBar>
 #include <QScopeGuard>
 
 void AnaForm::menüOlaylarınıBağla()
@@ -16,6 +19,9 @@ void AnaForm::menüOlaylarınıBağla()
     connect(&MakaleEkleMenüsü, &QAction::triggered, this, &AnaForm::MakaleEkleMenüsü_Click);
     connect(&MakeleDeğiştirMenüsü, &QAction::triggered, this, &AnaForm::MakeleDeğiştirMenüsü_Click);
     connect(&MakaleSilMenüsü, &QAction::triggered, this, &AnaForm::MakaleSilMenüsü_Click);
+    connect(&AyarlarMenüsü, &QAction::triggered, this, &AnaForm::AyarlarMenüsü_Click);
+    connect(&AyarlarMenüsü1, &QAction::triggered, this, &AnaForm::AyarlarMenüsü1_Click);
+    new OrtakHarf(*menuBar(), AyarlarMenüsü, Etiket[0], YazarListesi); // both captions underline the Y
 }
 
 void AnaForm::MakaleEkleMenüsü_Click()
@@ -60,4 +66,14 @@ void AnaForm::MakaleSilMenüsü_Click()
             form.Seç(SeçiliMakale());
         form.exec();
     });
+}
+
+void AnaForm::AyarlarMenüsü_Click()
+{
+    Olay("AyarlarMenüsü_Click", [this] { AyarlarFormu(*this).exec(); });
+}
+
+void AnaForm::AyarlarMenüsü1_Click()
+{
+    Olay("AyarlarMenüsü1_Click", [this] { AyarlarFormu(*this).exec(); });
 }
