@@ -12,6 +12,7 @@
 
 #include <functional>
 
+class QDialog;
 class QMessageBox;
 class QWidget;
 
@@ -85,6 +86,11 @@ struct AnaFormDenemesi
     DenemeProgramı Program;
     std::unique_ptr<AnaForm> Form;
 };
+
+/// Runs the user's part in the modal window that opens; what is still open then is closed.
+/// @param aç opens it, and returns when it has closed
+/// @return whether a window opened
+bool PencereAç(const std::function<void()>& aç, const std::function<void(QDialog&)>& kullanıcı);
 
 /// Types letters as a keyboard does; Qt's own helper knows ASCII only.
 void Yaz(QWidget& kontrol, const QString& metin);

@@ -6,6 +6,7 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QMessageBox>
 #include <QTest>
 
@@ -39,6 +40,7 @@ private slots:
     void displaySettings();
     void layout_data();
     void layout();
+    void sharedLetter();
     void exitQuestion();
     void exitSaves_data();
     void exitSaves();
@@ -217,6 +219,24 @@ void TestMainWindow::layout()
         QVERIFY2(t->Form->centralWidget()->rect().contains(place(adlar[i])), qPrintable(adlar[i]));
         for (int j = 0; j < i; ++j)
             QVERIFY2(!place(adlar[i]).intersects(place(adlar[j])), qPrintable(adlar[i] + u' ' + adlar[j]));
+    }
+}
+
+// The authors' caption and the menu entry of the settings have the same letter underlined.
+void TestMainWindow::sharedLetter()
+{
+    t->Göster();
+    const auto press = [this] { QTest::keyClick(t->Form->focusWidget(), Qt::Key_Y, Qt::AltModifier); };
+    for (int i = 0; i < 3; ++i) {
+        t->Form->activateWindow(); // as a window manager does when the other window has gone
+        QVERIFY(QTest::qWaitForWindowActive(t->Form.get()));
+        t->Bul<MetinKutusu>(u"BulKutusu"_s).setFocus();
+        press();
+        QVERIFY(t->Yazarlar().hasFocus());
+        QTest::keyClick(&t->Yazarlar(), Qt::Key_Down);
+        press();
+        QVERIFY(t->Yazarlar().hasFocus());
+        QVERIFY(PencereAç(press, [](QDialog& box) { QCOMPARE(box.objectName(), u"AyarlarFormu"_s); }));
     }
 }
 

@@ -144,18 +144,8 @@ private:
     /// Opens a window by its menu entry and runs the user's part in it; what is still open then is closed.
     void inWindow(const QString& menu, const std::function<void(Pencere)>& user)
     {
-        bool ran = false;
-        QTimer::singleShot(0, this, [&] {
-            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!box || !QTest::qWaitForWindowActive(box))
-                return;
-            user({*box});
-            ran = true;
-            if (box->isVisible())
-                box->done(0);
-        });
-        t->Form->findChild<QAction*>(menu)->trigger();
-        QVERIFY(ran);
+        QVERIFY(PencereAç([&] { t->Form->findChild<QAction*>(menu)->trigger(); },
+                          [&](QDialog& box) { user({box}); }));
     }
     void adding(const std::function<void(Pencere)>& user)
     {
