@@ -23,34 +23,51 @@ QString tamAnahtar(QStringView bölüm, QStringView anahtar)
 
 } // namespace
 
-QString AyarOku(const QString& uygulama, QStringView bölüm, QStringView anahtar, const QString& varsayılan)
+QString AyarMetniOku(const QString& uygulama, QStringView bölüm, QStringView anahtar,
+                     const QString& varsayılan)
 {
     return depo(uygulama).value(tamAnahtar(bölüm, anahtar), varsayılan).toString();
 }
 
-void AyarYaz(const QString& uygulama, QStringView bölüm, QStringView anahtar, const QString& değer)
+// The toolkit's store syncs a temporary file and renames it over the old one when it goes out of scope.
+void AyarMetniYaz(const QString& uygulama, QStringView bölüm, QStringView anahtar, const QString& değer)
 {
     depo(uygulama).setValue(tamAnahtar(bölüm, anahtar), değer);
 }
 
-QString AyarOku(QStringView anahtar, const QString& varsayılan)
+double AyarOku(const Ayar<double>& ayar)
 {
-    return AyarOku(AyarUygulamaAdı, AyarBölümü, anahtar, varsayılan);
+    return AyarOku(ayar, ayar.Varsayılan);
 }
 
-void AyarYaz(QStringView anahtar, const QString& değer)
+double AyarOku(SayıAnahtarı ayar, double varsayılan)
 {
-    AyarYaz(AyarUygulamaAdı, AyarBölümü, anahtar, değer);
-}
-
-double SayıAyarıOku(QStringView anahtar, double varsayılan)
-{
-    const QString metin = AyarOku(anahtar, QString());
+    const QString metin = AyarMetniOku(AyarUygulamaAdı, AyarBölümü, ayar.Ad, {});
     if (metin.isNull())
         return varsayılan;
     bool sayıMı = false;
     const double sayı = metin.trimmed().toDouble(&sayıMı);
     return sayıMı && std::isfinite(sayı) ? sayı : 0;
+}
+
+QString AyarOku(const Ayar<QStringView>& ayar)
+{
+    return AyarOku(ayar, ayar.Varsayılan.toString());
+}
+
+QString AyarOku(MetinAnahtarı ayar, const QString& varsayılan)
+{
+    return AyarMetniOku(AyarUygulamaAdı, AyarBölümü, ayar.Ad, varsayılan);
+}
+
+void AyarYaz(SayıAnahtarı ayar, qint64 sayı)
+{
+    AyarYaz(MetinAnahtarı{ayar.Ad}, QString::number(sayı));
+}
+
+void AyarYaz(MetinAnahtarı ayar, const QString& metin)
+{
+    AyarMetniYaz(AyarUygulamaAdı, AyarBölümü, ayar.Ad, metin);
 }
 
 qint16 SıraSayısı(double sayı)

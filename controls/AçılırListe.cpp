@@ -18,7 +18,8 @@ AçılırListe::AçılırListe(Tür tür, QWidget* üst) : TuşOlaylı<QComboBox
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(EnAzHarf);
     setMaxVisibleItems(AçıkSatır);
-    setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    setFocusPolicy(Qt::StrongFocus);                    // not by the wheel
+    setStyleSheet(QStringLiteral("combobox-popup: 0")); // else some styles open it over the whole screen
     auto* görünüm = new QListView(this);
     görünüm->setUniformItemSizes(true);
     görünüm->setTextElideMode(Qt::ElideRight);

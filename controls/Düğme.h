@@ -4,8 +4,9 @@
 #include <QPushButton>
 
 /// Its caption goes on in a second line where it is too long for one. Enter presses the button that has the
-/// focus, and no other. A mnemonic takes the focus along, as the mouse does, so that the field that is left
-/// sees it go; where that field keeps the focus, nothing is pressed.
+/// focus; elsewhere in a window it presses only one that was made the window's default. A mnemonic takes the
+/// focus along, as the mouse does, so that the field that is left sees it go; where that field keeps the
+/// focus, nothing is pressed.
 class Düğme : public QPushButton
 {
 public:

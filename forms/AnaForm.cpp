@@ -112,8 +112,7 @@ void AnaForm::menüleriKur()
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe : {&AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü,
-                         &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe : {&İçindekilerMenüsü, &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
         öğe->setEnabled(false);
 }
 
@@ -168,6 +167,7 @@ void AnaForm::Form_Load()
     başlıklarıKoy();
     pencereDurumunuOku();
     görünümAyarlarınıOku();
+    GörünümüUygula();
     YazarListesiYükle();
     sonYazarıSeç();
     yazarToplamınıYaz();
@@ -207,24 +207,24 @@ void AnaForm::başlıklarıKoy()
 
 void AnaForm::pencereDurumunuOku()
 {
-    if (SayıAyarıOku(u"Tam Ekran", TamEkranDeğeri) == TamEkranDeğeri) {
+    if (AyarOku(Ayarlar::TamEkran) == TamEkranDeğeri) {
         setWindowState(Qt::WindowMaximized);
         return;
     }
     setWindowState(Qt::WindowNoState);
     const QSize ekran = screen()->virtualGeometry().size();
-    const auto konum = [](QStringView anahtar, int ekranBoyu, int boy) {
-        const double sayı = SayıAyarıOku(anahtar, (Twip(ekranBoyu) - Twip(boy)) / 2);
+    const auto konum = [](SayıAnahtarı ayar, int ekranBoyu, int boy) {
+        const double sayı = AyarOku(ayar, (Twip(ekranBoyu) - Twip(boy)) / 2);
         return Piksel(std::clamp(sayı, -EnUzakKonum, EnUzakKonum));
     };
-    move(konum(u"Sol", ekran.width(), width()), konum(u"Ust", ekran.height(), height()));
+    move(konum(Ayarlar::Sol, ekran.width(), width()), konum(Ayarlar::Üst, ekran.height(), height()));
 }
 
 void AnaForm::görünümAyarlarınıOku()
 {
-    MakaleYazıTipi = AyarOku(u"Yazi Tipi", yüzey_->font().family());
-    YazıBoyutuSırası = SıraSayısı(SayıAyarıOku(u"Yazi Boyutu", 2));
-    ZeminRengiSırası = SıraSayısı(SayıAyarıOku(u"Zemin Rengi", 0));
+    MakaleYazıTipi = AyarOku(Ayarlar::YazıTipi, yüzey_->font().family());
+    YazıBoyutuSırası = SıraSayısı(AyarOku(Ayarlar::YazıBoyutu));
+    ZeminRengiSırası = SıraSayısı(AyarOku(Ayarlar::ZeminRengi));
 }
 
 void AnaForm::YazarListesiYükle()
@@ -240,7 +240,7 @@ void AnaForm::YazarListesiYükle()
 
 void AnaForm::sonYazarıSeç()
 {
-    const double sıra = SayıAyarıOku(u"Son Yazar", 0);
+    const double sıra = AyarOku(Ayarlar::SonYazar);
     if (sıra >= 0 && sıra <= YazarListesi.ListCount() - 1)
         YazarListesi.ListIndex(static_cast<int>(sıra));
 }
@@ -323,10 +323,15 @@ void AnaForm::MakaleListesi_Click()
 
 void AnaForm::makaleyiGöster(const QString& metin)
 {
+    GörünümüUygula();
+    MakaleMetniKutusu.Text(metin);
+}
+
+void AnaForm::GörünümüUygula()
+{
     MakaleMetniKutusu.FontName(MakaleYazıTipi);
     MakaleMetniKutusu.FontSize(YazıBoyutu(YazıBoyutuSırası));
     MakaleMetniKutusu.BackColor(ZeminRengi(ZeminRengiSırası));
-    MakaleMetniKutusu.Text(metin);
 }
 
 void AnaForm::ÖneGetir()

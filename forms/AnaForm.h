@@ -64,6 +64,9 @@ public:
     /// Empties the article list and the text: what is shown must belong to what is selected.
     void MakaleleriBoşalt();
 
+    /// Gives the article text the font, size and background that are in force now.
+    void GörünümüUygula();
+
     enum class Eksen
     {
         Yatay,
@@ -135,6 +138,8 @@ private:
     void MakaleSilMenüsü_Click();
     void ReferansOluşturMenüsü_Click();
     void değişeniSeç();
+    void AyarlarMenüsü_Click();
+    void AyarlarMenüsü1_Click();
 
     // What is done with the shown text
     void metinOlaylarınıBağla();

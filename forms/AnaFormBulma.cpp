@@ -15,9 +15,6 @@ namespace {
 
 constexpr int EnKısaSözcük = 2;
 
-// The settings window does not exist yet, so its menu entries stay disabled.
-constexpr bool AyarlarAçılır = false;
-
 } // namespace
 
 void AnaForm::bulmaOlaylarınıBağla()
@@ -86,7 +83,7 @@ void AnaForm::bulmaDüğmeleri(bool açık)
         düğme->setEnabled(açık);
     // The display must not change under the marks.
     for (QAction* ayarlar : {&AyarlarMenüsü, &AyarlarMenüsü1})
-        ayarlar->setEnabled(!açık && AyarlarAçılır);
+        ayarlar->setEnabled(!açık);
 }
 
 void AnaForm::yazarTarafı(bool açık)

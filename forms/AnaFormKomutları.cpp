@@ -5,11 +5,14 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "controls/OrtakHarf.h"
+#include "forms/AyarlarFormu.h"
 #include "forms/DeğiştirFormu.h"
 #include "forms/EkleFormu.h"
 #include "forms/ReferansFormu.h"
 #include "forms/SilFormu.h"
 
+#include <QMenuBar>
 #include <QScopeGuard>
 
 void AnaForm::menüOlaylarınıBağla()
@@ -18,6 +21,9 @@ void AnaForm::menüOlaylarınıBağla()
     connect(&MakeleDeğiştirMenüsü, &QAction::triggered, this, &AnaForm::MakeleDeğiştirMenüsü_Click);
     connect(&MakaleSilMenüsü, &QAction::triggered, this, &AnaForm::MakaleSilMenüsü_Click);
     connect(&ReferansOluşturMenüsü, &QAction::triggered, this, &AnaForm::ReferansOluşturMenüsü_Click);
+    connect(&AyarlarMenüsü, &QAction::triggered, this, &AnaForm::AyarlarMenüsü_Click);
+    connect(&AyarlarMenüsü1, &QAction::triggered, this, &AnaForm::AyarlarMenüsü1_Click);
+    new OrtakHarf(*menuBar(), AyarlarMenüsü, Etiket[0], YazarListesi); // both captions underline the Y
 }
 
 void AnaForm::MakaleEkleMenüsü_Click()
@@ -70,4 +76,14 @@ void AnaForm::MakaleSilMenüsü_Click()
 void AnaForm::ReferansOluşturMenüsü_Click()
 {
     Olay("ReferansOluşturMenüsü_Click", [this] { ReferansFormu(SeçiliMakale()).exec(); });
+}
+
+void AnaForm::AyarlarMenüsü_Click()
+{
+    Olay("AyarlarMenüsü_Click", [this] { AyarlarFormu(*this).exec(); });
+}
+
+void AnaForm::AyarlarMenüsü1_Click()
+{
+    Olay("AyarlarMenüsü1_Click", [this] { AyarlarFormu(*this).exec(); });
 }

@@ -75,15 +75,15 @@ void AnaForm::oturumuBitir()
         },
         [this] {
             if (pencereDurumu() == PencereDurumu::Olağan) {
-                AyarYaz(u"Sol", QString::number(Twip(pos().x())));
-                AyarYaz(u"Ust", QString::number(Twip(pos().y())));
+                AyarYaz(Ayarlar::Sol, Twip(pos().x()));
+                AyarYaz(Ayarlar::Üst, Twip(pos().y()));
             }
         },
         [this] {
             // The first author is where a start without this setting begins, too.
             if (YazarListesi.ListIndex() > 0)
-                AyarYaz(u"Son Yazar", QString::number(YazarListesi.ListIndex()));
+                AyarYaz(Ayarlar::SonYazar, YazarListesi.ListIndex());
         },
-        [this] { AyarYaz(u"Tam Ekran", QString::number(static_cast<int>(pencereDurumu()))); });
+        [this] { AyarYaz(Ayarlar::TamEkran, static_cast<int>(pencereDurumu())); });
     QCoreApplication::exit(0);
 }

@@ -28,12 +28,11 @@ constexpr int OlağanYükseklik = 8400;
 constexpr int EnUzunBaşlık = 255; // letters
 constexpr int EnUzunYer = 50;
 constexpr int EnUzunTarih = 20;
-constexpr QStringView SonDosyaAnahtarı = u"Son Acilan";
 
 /// Where the file chosen last lies, else the user's documents; home where that folder is gone.
 QString başlangıçKlasörü()
 {
-    const QString son = AyarOku(SonDosyaAnahtarı, QString());
+    const QString son = AyarOku(Ayarlar::SonAçılan);
     const QString klasör = son.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                          : QFileInfo(son).absolutePath();
     return DosyaVar(klasör) ? klasör : QDir::homePath();
@@ -236,5 +235,5 @@ void MakaleGirişFormu::dosyadanYükle()
         return;
     }
     dosyaYüklendi();
-    AyarYaz(SonDosyaAnahtarı, yol);
+    AyarYaz(Ayarlar::SonAçılan, yol);
 }

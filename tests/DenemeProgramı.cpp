@@ -3,10 +3,12 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QTest>
 #include <QTimer>
 
 DenemeProgramı::DenemeProgramı(const QList<Makale>& makaleler) : kitaplık_(makaleler)
@@ -53,6 +55,22 @@ KutuYanıtlayıcı::KutuYanıtlayıcı(Yanıt yanıt, std::function<void(QMessag
 }
 
 KutuYanıtlayıcı::~KutuYanıtlayıcı() = default;
+
+bool PencereAç(const std::function<void()>& aç, const std::function<void(QDialog&)>& kullanıcı)
+{
+    bool açıldı = false;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* kutu = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!kutu || !QTest::qWaitForWindowActive(kutu))
+            return;
+        kullanıcı(*kutu);
+        açıldı = true;
+        if (kutu->isVisible())
+            kutu->done(0);
+    });
+    aç();
+    return açıldı;
+}
 
 void Yaz(QWidget& kontrol, const QString& metin)
 {

@@ -4,12 +4,15 @@
 
 #include "DenemeKitaplığı.h"
 
+#include "app/Ayarlar.h"
+#include "app/OrtakDeğişkenlerModülü.h"
 #include "forms/AnaForm.h"
 
 #include <QTemporaryDir>
 
 #include <functional>
 
+class QDialog;
 class QMessageBox;
 class QWidget;
 
@@ -21,11 +24,23 @@ public:
     ~DenemeProgramı();
 
     const QString& Klasör() const { return kitaplık_.Klasör(); }
+    QString AyarKlasörü() const { return ayarlar_.path(); }
 
 private:
     DenemeKitaplığı kitaplık_;
     QTemporaryDir ayarlar_;
 };
+
+/// What the store holds for a setting, as text; null where it holds nothing.
+template<class Değer> QString AyarMetni(const AyarAnahtarı<Değer>& ayar)
+{
+    return AyarMetniOku(AyarUygulamaAdı, AyarBölümü, ayar.Ad, {});
+}
+/// Puts any text into the store, also where a number is meant.
+template<class Değer> void AyarMetni(const AyarAnahtarı<Değer>& ayar, const QString& metin)
+{
+    AyarMetniYaz(AyarUygulamaAdı, AyarBölümü, ayar.Ad, metin);
+}
 
 /// Answers the next message box, once it stands, and keeps what it said.
 class KutuYanıtlayıcı
@@ -71,6 +86,11 @@ struct AnaFormDenemesi
     DenemeProgramı Program;
     std::unique_ptr<AnaForm> Form;
 };
+
+/// Runs the user's part in the modal window that opens; what is still open then is closed.
+/// @param aç opens it, and returns when it has closed
+/// @return whether a window opened
+bool PencereAç(const std::function<void()>& aç, const std::function<void(QDialog&)>& kullanıcı);
 
 /// Types letters as a keyboard does; Qt's own helper knows ASCII only.
 void Yaz(QWidget& kontrol, const QString& metin);

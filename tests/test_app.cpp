@@ -25,6 +25,7 @@ private slots:
     void displayMaps();
     void numbersFromSettings_data();
     void numbersFromSettings();
+    void settingsStore();
     void boxIsCentred_data();
     void boxIsCentred();
     void boxAnswers_data();
@@ -117,10 +118,38 @@ void TestApp::numbersFromSettings()
     QFETCH(QString, stored);
     QFETCH(double, number);
     const DenemeProgramı program({});
+    constexpr Ayar<double> ayar{{u"Deneme Sayısı"}, 7};
     if (!stored.isNull())
-        AyarYaz(u"Yazi Boyutu", stored);
-    QCOMPARE(SayıAyarıOku(u"Yazi Boyutu", 7), number);
+        AyarMetni(ayar, stored);
+    QCOMPARE(AyarOku(ayar), number);
     QTEST(int(SıraSayısı(number)), "index");
+}
+
+void TestApp::settingsStore()
+{
+    const DenemeProgramı program({});
+    QCOMPARE(AyarOku(Ayarlar::TamEkran), 2.0);
+    QCOMPARE(AyarOku(Ayarlar::YazıBoyutu), 2.0);
+    QCOMPARE(AyarOku(Ayarlar::ZeminRengi), 0.0);
+    QCOMPARE(AyarOku(Ayarlar::YazıTipi, u"pencerenin"_s), u"pencerenin"_s);
+    QCOMPARE(AyarOku(Ayarlar::SonAçılan), QString());
+    const QString tuhaf = u" Iğdır, \"ş\"; \\ = %41 \n@Font\u00a0"_s;
+    AyarYaz(Ayarlar::YazıTipi, tuhaf);
+    AyarYaz(Ayarlar::Sol, -1500);
+    QCOMPARE(AyarOku(Ayarlar::YazıTipi, {}), tuhaf);
+    QCOMPARE(AyarOku(Ayarlar::Sol, 1), -1500.0);
+
+    // It is on the disk already, and alone there: the file was replaced as a whole.
+    const QDir klasör(program.AyarKlasörü() + u"/Tepsan Yazilim"_s);
+    QCOMPARE(klasör.entryList(QDir::Files | QDir::Hidden), QStringList(u"Belgenar.ini"_s));
+    QFile dosya(klasör.filePath(u"Belgenar.ini"_s));
+    QVERIFY(dosya.open(QIODevice::ReadOnly));
+    QVERIFY(dosya.readAll().startsWith("[Ayarlar]\nSol=-1500\n"));
+
+    // A store that can't be there, below something that is no folder.
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, dosya.fileName());
+    AyarYaz(Ayarlar::YazıTipi, u"yitik"_s);
+    QCOMPARE(AyarOku(Ayarlar::YazıTipi, u"pencerenin"_s), u"pencerenin"_s);
 }
 
 void TestApp::boxIsCentred_data()

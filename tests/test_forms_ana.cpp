@@ -6,6 +6,7 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QMessageBox>
 #include <QTest>
 
@@ -39,6 +40,7 @@ private slots:
     void displaySettings();
     void layout_data();
     void layout();
+    void sharedLetter();
     void exitQuestion();
     void exitSaves_data();
     void exitSaves();
@@ -138,7 +140,7 @@ void TestMainWindow::lastAuthor()
     QFETCH(QString, stored);
     QFETCH(int, index);
     if (!stored.isNull())
-        AyarYaz(u"Son Yazar", stored);
+        AyarMetni(Ayarlar::SonYazar, stored);
     t->Göster();
     QCOMPARE(t->Yazarlar().ListIndex(), index);
     QCOMPARE(t->Makaleler().ListCount() > 0, index >= 0);
@@ -160,10 +162,10 @@ void TestMainWindow::displaySettings()
     QFETCH(QString, size);
     QFETCH(QString, colour);
     if (!size.isNull()) {
-        AyarYaz(u"Yazi Boyutu", size);
-        AyarYaz(u"Zemin Rengi", colour);
+        AyarMetni(Ayarlar::YazıBoyutu, size);
+        AyarMetni(Ayarlar::ZeminRengi, colour);
     }
-    AyarYaz(u"Yazi Tipi", u"DejaVu Sans"_s);
+    AyarMetni(Ayarlar::YazıTipi, u"DejaVu Sans"_s);
     t->Göster();
     QCOMPARE(t->Metin().FontName(), u"DejaVu Sans"_s);
     QTEST(t->Metin().FontSize(), "points");
@@ -185,7 +187,7 @@ void TestMainWindow::layout()
 {
     QFETCH(QSize, asked);
     QFETCH(QSize, outer);
-    AyarYaz(u"Tam Ekran", u"1"_s); // anything but 2 is a normal window
+    AyarMetni(Ayarlar::TamEkran, u"1"_s); // anything but 2 is a normal window
     t->Göster();
     QVERIFY(!t->Form->isMaximized());
     t->Form->resize(asked - (t->Form->frameGeometry().size() - t->Form->size()));
@@ -220,6 +222,24 @@ void TestMainWindow::layout()
     }
 }
 
+// The authors' caption and the menu entry of the settings have the same letter underlined.
+void TestMainWindow::sharedLetter()
+{
+    t->Göster();
+    const auto press = [this] { QTest::keyClick(t->Form->focusWidget(), Qt::Key_Y, Qt::AltModifier); };
+    for (int i = 0; i < 3; ++i) {
+        t->Form->activateWindow(); // as a window manager does when the other window has gone
+        QVERIFY(QTest::qWaitForWindowActive(t->Form.get()));
+        t->Bul<MetinKutusu>(u"BulKutusu"_s).setFocus();
+        press();
+        QVERIFY(t->Yazarlar().hasFocus());
+        QTest::keyClick(&t->Yazarlar(), Qt::Key_Down);
+        press();
+        QVERIFY(t->Yazarlar().hasFocus());
+        QVERIFY(PencereAç(press, [](QDialog& box) { QCOMPARE(box.objectName(), u"AyarlarFormu"_s); }));
+    }
+}
+
 void TestMainWindow::exitQuestion()
 {
     t->Göster();
@@ -238,12 +258,12 @@ void TestMainWindow::exitQuestion()
         QCOMPARE(hayır.Sayı, 1);
     }
     QVERIFY(t->Form->isVisible());
-    QVERIFY(AyarOku(u"Son Yazar", {}).isNull());
+    QVERIFY(AyarMetni(Ayarlar::SonYazar).isNull());
     // The system ends the program while the question stands.
     KutuYanıtlayıcı bitir(KutuYanıtlayıcı::Yanıt::Hayır,
                           [this](QMessageBox&) { t->Form->Kapat(KapanışNedeni::GörevYöneticisi); });
     QVERIFY(t->Form->close());
-    QCOMPARE(AyarOku(u"Son Yazar", {}), u"2"_s);
+    QCOMPARE(AyarMetni(Ayarlar::SonYazar), u"2"_s);
 }
 
 void TestMainWindow::exitSaves_data()
@@ -260,19 +280,19 @@ void TestMainWindow::exitSaves()
 {
     QFETCH(int, author);
     QFETCH(int, state);
-    AyarYaz(u"Tam Ekran", QString::number(state));
-    AyarYaz(u"Sol", u"1500"_s);
-    AyarYaz(u"Ust", u"1200"_s);
+    AyarMetni(Ayarlar::TamEkran, QString::number(state));
+    AyarMetni(Ayarlar::Sol, u"1500"_s);
+    AyarMetni(Ayarlar::Üst, u"1200"_s);
     t->Göster();
-    AyarYaz(u"Son Yazar", u"old"_s);
-    AyarYaz(u"Sol", u"old"_s);
+    AyarMetni(Ayarlar::SonYazar, u"old"_s);
+    AyarMetni(Ayarlar::Sol, u"old"_s);
     t->Yazarlar().ListIndex(author);
     if (state == 1)
         t->Form->setWindowState(Qt::WindowMinimized);
     QVERIFY(t->Form->Kapat(KapanışNedeni::GörevYöneticisi));
-    QTEST(AyarOku(u"Son Yazar", {}), "savedAuthor");
-    QCOMPARE(AyarOku(u"Tam Ekran", {}), QString::number(state));
-    QCOMPARE(AyarOku(u"Sol", {}), state == 0 ? u"1500"_s : u"old"_s);
+    QTEST(AyarMetni(Ayarlar::SonYazar), "savedAuthor");
+    QCOMPARE(AyarMetni(Ayarlar::TamEkran), QString::number(state));
+    QCOMPARE(AyarMetni(Ayarlar::Sol), state == 0 ? u"1500"_s : u"old"_s);
     // The library is let go of, and its account has lived for this run only.
     QVERIFY(!Veritabanı && !ÇalışmaAlanı);
     QCOMPARE(SahipÇalışmaAlanı(*Motor).Users().Tümü().size(), std::size_t(1));

@@ -144,18 +144,8 @@ private:
     /// Opens a window by its menu entry and runs the user's part in it; what is still open then is closed.
     void inWindow(const QString& menu, const std::function<void(Pencere)>& user)
     {
-        bool ran = false;
-        QTimer::singleShot(0, this, [&] {
-            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!box || !QTest::qWaitForWindowActive(box))
-                return;
-            user({*box});
-            ran = true;
-            if (box->isVisible())
-                box->done(0);
-        });
-        t->Form->findChild<QAction*>(menu)->trigger();
-        QVERIFY(ran);
+        QVERIFY(PencereAç([&] { t->Form->findChild<QAction*>(menu)->trigger(); },
+                          [&](QDialog& box) { user({box}); }));
     }
     void adding(const std::function<void(Pencere)>& user)
     {
@@ -396,11 +386,11 @@ void TestEntryWindows::files()
             QCOMPARE(cancelled.Süzgeçler,
                      QStringList({u"Metin Dosyaları (*.txt)"_s, u"Zengin Metin Biçimi (*.rtf)"_s}));
         }
-        QCOMPARE(AyarOku(u"Son Acilan", u"yok"_s), u"yok"_s);
+        QCOMPARE(AyarOku(Ayarlar::SonAçılan, u"yok"_s), u"yok"_s);
         DosyaSeçici first(plain);
         p.Bas(u"DosyaYükleButonu"_s);
         QCOMPARE(p.Metin().Text(), u"birinci\nikinci ışık"_s);
-        QCOMPARE(AyarOku(u"Son Acilan", {}), plain);
+        QCOMPARE(AyarOku(Ayarlar::SonAçılan), plain);
     });
     changing([&](Pencere p) {
         DosyaSeçici second(rich);
@@ -431,7 +421,7 @@ void TestEntryWindows::unreadableFileLeavesTheText()
         p.Bas(u"DosyaYükleButonu"_s);
         QVERIFY2(box.Metin.contains(u"resim.txt"_s), qPrintable(box.Metin));
         QCOMPARE(p.Metin().Text(), u"önceki"_s);
-        QCOMPARE(AyarOku(u"Son Acilan", {}), QString());
+        QCOMPARE(AyarOku(Ayarlar::SonAçılan), QString());
     });
 }
 
