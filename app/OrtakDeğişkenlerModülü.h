@@ -40,3 +40,6 @@ extern qint16 ZeminRengiSırası; ///< index for ZeminRengi
 
 /// "1.00": major, point, then minor and revision side by side.
 QString SürümMetni();
+
+/// The version as windows show it: "Sürüm 1.00".
+QString SürümYazısı();
