@@ -2,10 +2,15 @@
 
 #include "app/Metinler.h"
 
-void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
+void EtiketiKur(QLabel& etiket, std::size_t sıra, const QString& yazı)
 {
     etiket.setObjectName(QStringLiteral("Etiket%1").arg(sıra));
-    etiket.setText(Metin(metin));
+    etiket.setText(yazı);
+}
+
+void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
+{
+    EtiketiKur(etiket, sıra, Metin(metin));
     etiket.setBuddy(&kontrol);
     kontrol.setAccessibleName(SadeMetin(metin));
 }
