@@ -111,9 +111,9 @@ void AnaForm::menüleriKur()
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe : {&ReferansOluşturMenüsü, &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü,
-                         &WordeYapıştırMenüsü, &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü,
-                         &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe :
+         {&ReferansOluşturMenüsü, &TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
+          &AyarlarMenüsü, &AyarlarMenüsü1, &İçindekilerMenüsü, &DizinMenüsü})
         öğe->setEnabled(false);
 }
 

@@ -133,6 +133,8 @@ private:
     void MakaleEkleMenüsü_Click();
     void MakeleDeğiştirMenüsü_Click();
     void MakaleSilMenüsü_Click();
+    void HatalarıBildirinMenüsü_Click();
+    void HakkındaMenüsü_Click();
     void değişeniSeç();
 
     // Layout

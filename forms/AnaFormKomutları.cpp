@@ -7,6 +7,8 @@
 #include "app/İletiKutusu.h"
 #include "forms/DeğiştirFormu.h"
 #include "forms/EkleFormu.h"
+#include "forms/HakkındaFormu.h"
+#include "forms/HataBildirmeFormu.h"
 #include "forms/SilFormu.h"
 
 #include <QScopeGuard>
@@ -16,6 +18,8 @@ void AnaForm::menüOlaylarınıBağla()
     connect(&MakaleEkleMenüsü, &QAction::triggered, this, &AnaForm::MakaleEkleMenüsü_Click);
     connect(&MakeleDeğiştirMenüsü, &QAction::triggered, this, &AnaForm::MakeleDeğiştirMenüsü_Click);
     connect(&MakaleSilMenüsü, &QAction::triggered, this, &AnaForm::MakaleSilMenüsü_Click);
+    connect(&HatalarıBildirinMenüsü, &QAction::triggered, this, &AnaForm::HatalarıBildirinMenüsü_Click);
+    connect(&HakkındaMenüsü, &QAction::triggered, this, &AnaForm::HakkındaMenüsü_Click);
 }
 
 void AnaForm::MakaleEkleMenüsü_Click()
@@ -60,4 +64,14 @@ void AnaForm::MakaleSilMenüsü_Click()
             form.Seç(SeçiliMakale());
         form.exec();
     });
+}
+
+void AnaForm::HatalarıBildirinMenüsü_Click()
+{
+    Olay("HatalarıBildirinMenüsü_Click", [] { HataBildirmeFormu().exec(); });
+}
+
+void AnaForm::HakkındaMenüsü_Click()
+{
+    Olay("HakkındaMenüsü_Click", [] { HakkındaFormu().exec(); });
 }
