@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -16,6 +17,7 @@ constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00,
 constexpr Renk SistemRengi = 0x80000000;
 constexpr double TwipİnçBaşına = 1440.0;
 constexpr double OlağanNokta = 96.0;
+constexpr double EnAzKarşıtlık = 4.5; // WCAG 2.1, success criterion 1.4.3
 
 template<class Tablo> auto tablodan(const Tablo& tablo, qint16 sıra)
 {
@@ -27,6 +29,22 @@ double nokta()
 {
     const QScreen* ekran = QGuiApplication::primaryScreen();
     return ekran ? ekran->logicalDotsPerInch() : OlağanNokta;
+}
+
+/// Relative luminance, as WCAG 2.1 defines it.
+double bağılIşıklılık(const QColor& renk)
+{
+    const auto doğrusal = [](double kanal) {
+        return kanal <= 0.04045 ? kanal / 12.92 : std::pow((kanal + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * doğrusal(renk.redF()) + 0.7152 * doğrusal(renk.greenF()) +
+           0.0722 * doğrusal(renk.blueF());
+}
+
+double karşıtlık(const QColor& bir, const QColor& iki)
+{
+    const auto [koyu, açık] = std::minmax({bağılIşıklılık(bir), bağılIşıklılık(iki)});
+    return (açık + 0.05) / (koyu + 0.05);
 }
 
 } // namespace
@@ -61,6 +79,16 @@ QColor OkunurYazıRengi(const QColor& zemin)
     // Weights of ITU-R BT.601, which is what the eye's own weighting comes to.
     const double ışıklılık = 0.299 * zemin.red() + 0.587 * zemin.green() + 0.114 * zemin.blue();
     return ışıklılık < 96 ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+QColor OkunurTon(const QColor& renk, const QColor& zemin)
+{
+    if (OkunurYazıRengi(zemin) == QColor(Qt::black))
+        return renk;
+    QColor ton = renk;
+    for (int açıklık = renk.lightness(); açıklık < 255 && karşıtlık(ton, zemin) < EnAzKarşıtlık;)
+        ton = QColor::fromHsl(renk.hslHue(), renk.hslSaturation(), ++açıklık);
+    return ton;
 }
 
 void ZeminVer(QWidget& kontrol, const QColor& zemin)

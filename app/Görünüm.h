@@ -13,6 +13,7 @@ using Renk = quint32;
 inline constexpr Renk OdakMavisi = 0xFF0000;           ///< caption label of the field that has the focus
 inline constexpr Renk PencereZeminiRengi = 0x80000005; ///< system colour of fields
 inline constexpr Renk DüğmeYüzüRengi = 0x8000000F;     ///< system colour of button faces
+inline constexpr Renk DüğmeYazısıRengi = 0x80000012;   ///< system colour of letters on button faces
 
 /// Point size of an index of the size list (8 to 14); 0 for an index outside the list.
 int YazıBoyutu(qint16 sıra);
@@ -23,6 +24,9 @@ Renk ZeminRengi(qint16 sıra);
 QColor EkranRengi(Renk renk, const QPalette& palet);
 /// Black or white, whichever reads better on the background.
 QColor OkunurYazıRengi(const QColor& zemin);
+/// The colour itself on a light background; on a dark one lightened, in its own hue, as far as letters in
+/// it need to be read.
+QColor OkunurTon(const QColor& renk, const QColor& zemin);
 
 /// Gives a field a background, and letters in black or white, whichever reads better on it.
 void ZeminVer(QWidget& kontrol, const QColor& zemin);

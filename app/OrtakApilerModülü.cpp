@@ -1,10 +1,12 @@
 #include "app/OrtakApilerModülü.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QUrl>
 #include <QWidget>
 
 #include <sys/utsname.h>
@@ -59,6 +61,18 @@ QString KayıtMetniOku(KayıtKökü kök, const QString& anahtarYolu, const QStr
             return program;
     }
     return {};
+}
+
+// Files and scripts are not opened: an address may come from a stored state.
+void AdresAç(const QString& adres)
+{
+    const QUrl url(adres, QUrl::StrictMode);
+    const QString şema = url.scheme(); // in lower case
+    const bool site =
+        (şema == QLatin1String("http") || şema == QLatin1String("https")) && !url.host().isEmpty();
+    const bool posta = şema == QLatin1String("mailto") && !url.path().isEmpty();
+    if (url.isValid() && (site || posta))
+        QDesktopServices::openUrl(url);
 }
 
 void PencereleriBoya()

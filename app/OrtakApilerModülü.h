@@ -37,6 +37,10 @@ enum class KayıtKökü : quint32
 /// tells whether a word processor is installed ("Word.Document\CurVer") is answered by looking for it.
 QString KayıtMetniOku(KayıtKökü kök, const QString& anahtarYolu, const QString& değerAdı);
 
+/// Opens a web or mail address with the desktop's own program for it. Any other address, also a malformed
+/// one, opens nothing; nothing is reported.
+void AdresAç(const QString& adres);
+
 /// Lets all windows paint during long work; what the user does meanwhile waits until it is over.
 void PencereleriBoya();
 

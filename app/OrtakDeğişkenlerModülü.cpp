@@ -60,3 +60,8 @@ QString SürümMetni()
 {
     return QStringLiteral("%1.%2%3").arg(BELGENAR_ANA_SÜRÜM).arg(BELGENAR_ALT_SÜRÜM).arg(BELGENAR_DÜZELTME);
 }
+
+QString SürümYazısı()
+{
+    return QStringLiteral("Sürüm ") + SürümMetni();
+}

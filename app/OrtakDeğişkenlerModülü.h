@@ -46,3 +46,6 @@ extern bool YazdırmaİptalEdildi;
 
 /// "1.00": major, point, then minor and revision side by side.
 QString SürümMetni();
+
+/// The version as windows show it: "Sürüm 1.00".
+QString SürümYazısı();

@@ -8,10 +8,15 @@ constexpr int EtiketPayı = 2; // pixels; the last letter may be wider than its 
 
 } // namespace
 
-void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
+void EtiketiKur(QLabel& etiket, std::size_t sıra, const QString& yazı)
 {
     etiket.setObjectName(QStringLiteral("Etiket%1").arg(sıra));
-    etiket.setText(Metin(metin));
+    etiket.setText(yazı);
+}
+
+void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
+{
+    EtiketiKur(etiket, sıra, Metin(metin));
     etiket.setBuddy(&kontrol);
     etiket.setContentsMargins(0, 0, EtiketPayı, 0);
     kontrol.setAccessibleName(SadeMetin(metin));

@@ -1,9 +1,10 @@
-// The caption labels of a window's controls.
+// The labels of a window.
 #pragma once
 
 #include <QLabel>
 
-/// Makes the element of the label array Etiket the caption of a control: its mnemonic leads there, and a
-/// screen reader calls the control by it.
+/// Gives the element of the label array Etiket its name and text.
+void EtiketiKur(QLabel& etiket, std::size_t sıra, const QString& yazı);
+/// Makes it the caption of a control: its mnemonic leads there, and a screen reader calls the control by it.
 /// @param metin number in the table of texts
 void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol);

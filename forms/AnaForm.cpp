@@ -112,7 +112,7 @@ void AnaForm::menüleriKur()
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
 
     // Nothing answers these yet.
-    for (QAction* öğe : {&İçindekilerMenüsü, &DizinMenüsü, &HatalarıBildirinMenüsü, &HakkındaMenüsü})
+    for (QAction* öğe : {&İçindekilerMenüsü, &DizinMenüsü})
         öğe->setEnabled(false);
 }
 

@@ -137,6 +137,8 @@ private:
     void MakeleDeğiştirMenüsü_Click();
     void MakaleSilMenüsü_Click();
     void ReferansOluşturMenüsü_Click();
+    void HatalarıBildirinMenüsü_Click();
+    void HakkındaMenüsü_Click();
     void değişeniSeç();
     void AyarlarMenüsü_Click();
     void AyarlarMenüsü1_Click();

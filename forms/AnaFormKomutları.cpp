@@ -9,6 +9,8 @@
 #include "forms/AyarlarFormu.h"
 #include "forms/DeğiştirFormu.h"
 #include "forms/EkleFormu.h"
+#include "forms/HakkındaFormu.h"
+#include "forms/HataBildirmeFormu.h"
 #include "forms/ReferansFormu.h"
 #include "forms/SilFormu.h"
 
@@ -24,6 +26,8 @@ void AnaForm::menüOlaylarınıBağla()
     connect(&AyarlarMenüsü, &QAction::triggered, this, &AnaForm::AyarlarMenüsü_Click);
     connect(&AyarlarMenüsü1, &QAction::triggered, this, &AnaForm::AyarlarMenüsü1_Click);
     new OrtakHarf(*menuBar(), AyarlarMenüsü, Etiket[0], YazarListesi); // both captions underline the Y
+    connect(&HatalarıBildirinMenüsü, &QAction::triggered, this, &AnaForm::HatalarıBildirinMenüsü_Click);
+    connect(&HakkındaMenüsü, &QAction::triggered, this, &AnaForm::HakkındaMenüsü_Click);
 }
 
 void AnaForm::MakaleEkleMenüsü_Click()
@@ -86,4 +90,14 @@ void AnaForm::AyarlarMenüsü_Click()
 void AnaForm::AyarlarMenüsü1_Click()
 {
     Olay("AyarlarMenüsü1_Click", [this] { AyarlarFormu(*this).exec(); });
+}
+
+void AnaForm::HatalarıBildirinMenüsü_Click()
+{
+    Olay("HatalarıBildirinMenüsü_Click", [] { HataBildirmeFormu().exec(); });
+}
+
+void AnaForm::HakkındaMenüsü_Click()
+{
+    Olay("HakkındaMenüsü_Click", [] { HakkındaFormu().exec(); });
 }

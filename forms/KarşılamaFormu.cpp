@@ -3,6 +3,7 @@
 #include "app/Görünüm.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/ProgramSimgesi.h"
 
 #include <QScreen>
 #include <QVBoxLayout>
@@ -22,13 +23,8 @@ KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::F
     setWindowTitle(Metin(5));
     setFont(FormYazıTipi());
 
-    const int simge = Piksel(SimgeBoyu);
-    const double oran = devicePixelRatioF();
-    QPixmap resim(QStringLiteral(":/belgenar/simgeler/belgenar.png"));
-    resim = resim.scaled(QSize(simge, simge) * oran, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    resim.setDevicePixelRatio(oran);
     SimgeKutusu.setObjectName(QStringLiteral("SimgeKutusu"));
-    SimgeKutusu.setPixmap(resim);
+    ProgramResmiKoy(SimgeKutusu, SimgeBoyu);
     AdEtiketi.setObjectName(QStringLiteral("AdEtiketi"));
     AdEtiketi.setText(Metin(5));
     QFont adYazıTipi = font();
@@ -36,7 +32,7 @@ KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::F
     adYazıTipi.setBold(true);
     AdEtiketi.setFont(adYazıTipi);
     SürümEtiketi.setObjectName(QStringLiteral("SürümEtiketi"));
-    SürümEtiketi.setText(QStringLiteral("Sürüm ") + SürümMetni());
+    SürümEtiketi.setText(SürümYazısı());
 
     auto* düzen = new QVBoxLayout(this);
     const int boşluk = Piksel(KenarBoşluğu);

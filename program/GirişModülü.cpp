@@ -6,6 +6,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/ProgramSimgesi.h"
 #include "app/TekÖrnek.h"
 #include "app/İletiKutusu.h"
 #include "forms/AnaForm.h"
@@ -13,7 +14,6 @@
 #include "store/MakaleKitaplığı.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QScopeGuard>
@@ -96,7 +96,7 @@ int SubMain(QApplication& uygulama)
         tekÖrnek->ÖneÇağrıldı = &kutuyuÖneGetir;
         AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(5);
         ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
-        uygulama.setWindowIcon(QIcon(QStringLiteral(":/belgenar/simgeler/belgenar.png")));
+        uygulama.setWindowIcon(ProgramSimgesi());
 
         karşılama.emplace().show();
         PencereleriBoya();
