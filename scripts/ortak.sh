@@ -6,7 +6,11 @@ export LC_ALL=C.UTF-8 # window captions and file names are not ASCII; always the
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlcipher-dev libicu-dev libcups2-dev"
 RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation x11-utils"
 VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
-TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES cups-daemon cups-client cups-filters poppler-utils xclip"
+# A print service with a printer that writes PDF (cups-*, poppler-utils); the public validators of the desktop
+# entry (desktop-file-utils), its metadata (appstream) and the manual page (mandoc); GLib's launcher, which
+# reads the entry as desktops do (libglib2.0-bin).
+TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES xclip cups-daemon cups-client cups-filters poppler-utils
+    desktop-file-utils appstream mandoc libglib2.0-bin"
 
 die() {
     echo "$*" >&2

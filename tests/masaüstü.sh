@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# What the program brings for the user's desktop: tests/masaüstü.sh BUILD-FOLDER
+# Prints a line "ok ...", "FAIL ..." or "skipped: ..." for each check.
+set -u
+build=$(readlink -f "$1")
+cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
+export LC_ALL=C.UTF-8
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export HOME=$work/ev XDG_DATA_HOME="$work/ev/veri klasörü"
+data=$XDG_DATA_HOME
+id=example.tepsan.belgenar
+entry=$data/applications/$id.desktop
+failures=0
+
+check() { # check TITLE COMMAND...
+    local title=$1
+    shift
+    if "$@" >"$work/soz" 2>&1; then
+        echo "ok $title"
+    else
+        echo "FAIL $title"
+        sed 's/^/  /' "$work/soz"
+        failures=$((failures + 1))
+    fi
+}
+check_with() { # check_with NEEDED TITLE COMMAND...: only where the needed command is
+    if command -v "$1" >/dev/null; then check "${@:2}"; else echo "skipped: $2 ($1 yok)"; fi
+}
+equal() { [ "$1" = "$2" ] || { echo "$1 değil $2"; return 1; }; }
+listing() { (cd "$1" && find . -printf '%P %y %l\n' | sort; find . -type f -exec sha256sum {} + | sort); }
+
+source=resources/masaustu
+check_with desktop-file-validate "masaüstü girişi geçerlidir" desktop-file-validate "$source/$id.desktop"
+check_with appstreamcli "tanıtım bilgisi geçerlidir" appstreamcli validate --no-net --pedantic "$source/$id.metainfo.xml"
+check_with mandoc "kılavuz sayfası geçerlidir" mandoc -Tlint -Wwarning "$source/belgenar-kitaplik.1"
+version=$(sed -n 's/^project(.*VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+check "tanıtım bilgisi bu sürümü sayar" grep -q "<release version=\"$version\"" "$source/$id.metainfo.xml"
+check "kılavuz bu sürümündür" grep -q "^\.TH .*\"Belgenar $version\"" "$source/belgenar-kitaplik.1"
+help_in_page() { # each of the tool's commands has an entry of its own
+    local name names
+    names=$("$build/tools/belgenar-kitaplik" --yardım | sed -n 's/^  belgenar-kitaplik \([^ ]*\).*/\1/p')
+    [ "$(wc -w <<<"$names")" -ge 5 ] || return 1
+    for name in $names; do
+        grep -qxF ".B ${name//-/\\-}" "$source/belgenar-kitaplik.1" || { echo "$name"; return 1; }
+    done
+}
+check "kılavuz aracın her komutunu anlatır" help_in_page
+
+# The checkout in a folder with all that Exec must quote.
+place="$work/Ağır %100 %f \"iş\" 'x' \`y\` \$HOME \\son = şu;&"
+mkdir -p "$place" "$data/applications" "$data/icons/hicolor/48x48/apps"
+cp -r run scripts resources "$place/"
+echo other >"$data/icons/hicolor/48x48/apps/other.png"
+cp "$source/$id.desktop" "$data/applications/other.desktop"
+cmake --install "$build" --prefix "$work/Belgenar" >/dev/null # itself knows no such folders
+mv "$work/Belgenar" "$place/"
+"$place/Belgenar/belgenar-kitaplik" oluştur "$place/Belgenar" >/dev/null
+listing "$data" >"$work/once"
+listing "$place" >"$work/klasor"
+
+check "--kur girişi koyar" "$place/run" --kur
+check_with desktop-file-validate "konan giriş geçerlidir" desktop-file-validate "$entry"
+check "her boyda simge konur" equal "$(find "$data/icons" -name "$id.*" | wc -l)" \
+    "$(($(find resources/simgeler -name 'belgenar-[0-9]*.png' | wc -l) + 1))"
+check "simge yerindedir" cmp resources/simgeler/belgenar-24.png "$data/icons/hicolor/24x24/apps/$id.png"
+check "kılavuz konur" cmp "$source/belgenar-kitaplik.1" "$data/man/man1/belgenar-kitaplik.1"
+listing "$data" >"$work/kurulu"
+check "--kur yinelenebilir" "$place/run" --kur
+check "ikinci --kur bir şey değiştirmez" cmp "$work/kurulu" <(listing "$data")
+
+# What stands in the program's place tells how it was called.
+launched_as() { # launched_as PROGRAM
+    mv "$1" "$1.asıl"
+    printf '#!/bin/sh\nprintf "%%s\\n" "$#" "$0" >"%s"\n' "$work/cagri" >"$1"
+    chmod +x "$1"
+    gio launch "$entry"
+    timeout 5 sh -c 'until [ -s "$0" ]; do sleep 0.1; done' "$work/cagri"
+    mv "$1.asıl" "$1"
+    equal "$(cat "$work/cagri")" "0"$'\n'"$1"
+}
+check_with gio "menüden program başlar" launched_as "$place/Belgenar/belgenar"
+
+# Another folder's entry stays, and goes once that folder's program is gone.
+cp -r "$place" "$work/baska"
+"$work/baska/run" --kur >/dev/null
+refused() { ! "$place/run" --kaldır && [ -e "$entry" ]; }
+check "başka klasörün girişine dokunulmaz" refused
+rm -r "$work/baska"
+check "--kaldır ölü girişi kaldırır" "$place/run" --kaldır
+check "--kaldır başka bir şeye dokunmaz" diff "$work/once" <(listing "$data")
+check "--kaldır yinelenebilir" "$place/run" --kaldır
+check "program klasörü ve kitaplık aynı kalır" diff "$work/klasor" <(listing "$place")
+
+[ "$failures" = 0 ]
