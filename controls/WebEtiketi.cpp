@@ -260,22 +260,22 @@ void WebEtiketi::changeEvent(QEvent* olay)
 // The label's mouse events end here: the holding window takes its own for the pointer being elsewhere.
 bool WebEtiketi::eventFilter(QObject* nesne, QEvent* olay)
 {
-    const auto* fare = static_cast<QMouseEvent*>(olay);
+    const auto fare = [olay]() -> const QMouseEvent& { return *static_cast<QMouseEvent*>(olay); };
     switch (olay->type()) {
     case QEvent::MouseMove:
         Olay("WebEtiketi_MouseMove", [&] {
-            const QPoint yer = fare->position().toPoint();
+            const QPoint yer = fare().position().toPoint();
             if (MouseMove)
-                MouseMove(düğmeSayısı(fare->buttons()), üstTuşSayısı(fare->modifiers()),
+                MouseMove(düğmeSayısı(fare().buttons()), üstTuşSayısı(fare().modifiers()),
                           static_cast<float>(Twip(yer.x())), static_cast<float>(Twip(yer.y())));
         });
         return true;
     case QEvent::MouseButtonPress:
-        basıldı_ = fare->button() == Qt::LeftButton;
+        basıldı_ = fare().button() == Qt::LeftButton;
         return true;
     case QEvent::MouseButtonRelease:
-        if (std::exchange(basıldı_, false) && fare->button() == Qt::LeftButton &&
-            Etiket.rect().contains(fare->position().toPoint()))
+        if (std::exchange(basıldı_, false) && fare().button() == Qt::LeftButton &&
+            Etiket.rect().contains(fare().position().toPoint()))
             Aç();
         return true;
     default:
