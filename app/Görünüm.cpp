@@ -1,5 +1,6 @@
 #include "app/Görünüm.h"
 
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -104,6 +105,11 @@ QFont FormYazıTipi()
     QFont yazıTipi(QStringLiteral("Liberation Sans"), 9);
     yazıTipi.setStyleHint(QFont::SansSerif);
     return yazıTipi;
+}
+
+QString FormYazıTipiAdı()
+{
+    return QFontInfo(FormYazıTipi()).family();
 }
 
 int Piksel(double twip)

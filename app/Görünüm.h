@@ -33,6 +33,8 @@ void ZeminVer(QWidget& kontrol, const QColor& zemin);
 
 /// The font of the windows' own controls; its sizes are laid out for it.
 QFont FormYazıTipi();
+/// Its family: the one that it has here where its own is not installed.
+QString FormYazıTipiAdı();
 
 /// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots, more dots where the user
 /// has larger text, so that windows grow with their fonts.

@@ -33,7 +33,8 @@ constexpr double SekmeAralığı = 720;  // twips
 constexpr int BoyamaAralığı = 50;     // ms between two paintings of the windows
 constexpr qsizetype ParçaBoyu = 4096; // UTF-16 units laid out at a time
 
-QString geçerliAd;
+QString seçilenAd;    // in this run
+QString varsayılanAd; // as last listed; the first printer where the service names none
 
 struct BulunanYazıcı
 {
@@ -153,7 +154,8 @@ void paragraflarıDök(SayfaDökümü& döküm, QStringView metin)
     for (qsizetype i = 0; i <= metin.size(); ++i) {
         const bool son = i == metin.size();
         const QChar harf = son ? QChar(u'\n') : metin[i];
-        if (harf != u'\n' && harf != u'\r' && harf != QChar::ParagraphSeparator)
+        const bool satırSonu = (harf >= u'\n' && harf <= u'\r') || harf == QChar::ParagraphSeparator;
+        if (!satırSonu)
             continue;
         if (!son || i > baş) // a break at the very end begins no further line
             döküm.Paragraf(metin.sliced(baş, i - baş));
@@ -171,24 +173,24 @@ QList<Yazıcı> Yazıcılar()
     QList<Yazıcı> yazıcılar;
     for (const BulunanYazıcı& bulunan : bulunanlar)
         yazıcılar.append(bulunan.Yazıcısı);
-    if (geçerliAd.isEmpty() && !bulunanlar.isEmpty()) {
-        const auto varsayılan = std::find_if(bulunanlar.begin(), bulunanlar.end(),
-                                             [](const BulunanYazıcı& b) { return b.Varsayılan; });
-        geçerliAd = (varsayılan != bulunanlar.end() ? *varsayılan : bulunanlar.first()).Yazıcısı.Ad;
-    }
+    const auto varsayılan = std::find_if(bulunanlar.begin(), bulunanlar.end(),
+                                         [](const BulunanYazıcı& b) { return b.Varsayılan; });
+    varsayılanAd = varsayılan != bulunanlar.end() ? varsayılan->Yazıcısı.Ad : yazıcılar.value(0).Ad;
     return yazıcılar;
 }
 
 QString GeçerliYazıcı()
 {
-    if (geçerliAd.isEmpty())
+    if (!seçilenAd.isEmpty())
+        return seçilenAd;
+    if (varsayılanAd.isEmpty())
         Yazıcılar();
-    return geçerliAd;
+    return varsayılanAd;
 }
 
 void GeçerliYazıcı(const QString& ad)
 {
-    geçerliAd = ad;
+    seçilenAd = ad;
 }
 
 void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta)
@@ -199,20 +201,22 @@ void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta)
     const auto imleç = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     // The toolkit takes any name for a printer, and waits for ever for a service that is stuck: ask first.
     const QList<Yazıcı> yazıcılar = Yazıcılar();
+    const QString ad = seçilenAd.isEmpty() ? varsayılanAd : seçilenAd;
     const bool var = std::any_of(yazıcılar.begin(), yazıcılar.end(),
-                                 [](const Yazıcı& yazıcı) { return yazıcı.Ad == geçerliAd; });
+                                 [&ad](const Yazıcı& yazıcı) { return yazıcı.Ad == ad; });
     if (!var)
-        throw ÇalışmaHatası(YazıcıHatası, geçerliAd.isEmpty()
-                                              ? QStringLiteral("Kurulu bir yazıcı bulunamadı.")
-                                              : QStringLiteral("Yazıcı bulunamadı: ") + geçerliAd);
+        throw ÇalışmaHatası(YazıcıHatası, ad.isEmpty() ? QStringLiteral("Kurulu bir yazıcı bulunamadı.")
+                                                       : QStringLiteral("Yazıcı bulunamadı: ") + ad);
 
     QPrinter yazıcı(QPrinter::HighResolution);
-    yazıcı.setPrinterName(geçerliAd);
+    yazıcı.setPrinterName(ad);
     yazıcı.setDocName(Metin(5));
     if (!yazıcı.pageLayout().isValid())
         yazıcı.setPageSize(QPageSize(QPageSize::A4));
-    yazıcı.setPageMargins(QMarginsF(KenarBoşluğu, KenarBoşluğu, KenarBoşluğu, KenarBoşluğu),
-                          QPageLayout::Millimeter);
+    // The paper of a label printer has no room for the margins of a letter.
+    const QSizeF kâğıt = yazıcı.pageLayout().fullRect(QPageLayout::Millimeter).size();
+    const double kenar = std::min(KenarBoşluğu, std::min(kâğıt.width(), kâğıt.height()) / 10);
+    yazıcı.setPageMargins(QMarginsF(kenar, kenar, kenar, kenar), QPageLayout::Millimeter);
     QFont yazı(yazıTipi);
     yazı.setPointSize(nokta);
     SayfaDökümü döküm(yazıcı, yazı);

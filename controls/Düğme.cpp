@@ -10,6 +10,12 @@ Düğme::Düğme(QWidget* üst) : QPushButton(üst)
     setAutoDefault(false);
 }
 
+// Some styles leave a caption of medium length no room at its sides.
+QSize Düğme::sizeHint() const
+{
+    return QPushButton::sizeHint() + QSize(2 * fontMetrics().averageCharWidth(), 0);
+}
+
 bool Düğme::event(QEvent* olay)
 {
     if (olay->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(olay)->isAmbiguous()) {

@@ -12,6 +12,8 @@ class Düğme : public QPushButton
 public:
     explicit Düğme(QWidget* üst = nullptr);
 
+    QSize sizeHint() const override;
+
 protected:
     bool event(QEvent* olay) override;
     void keyPressEvent(QKeyEvent* olay) override;

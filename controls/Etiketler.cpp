@@ -2,6 +2,10 @@
 
 #include "app/Metinler.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLineEdit>
+
 namespace {
 
 constexpr int EtiketPayı = 2; // pixels; the last letter may be wider than its advance
@@ -20,4 +24,9 @@ void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
     etiket.setBuddy(&kontrol);
     etiket.setContentsMargins(0, 0, EtiketPayı, 0);
     kontrol.setAccessibleName(SadeMetin(metin));
+    if (auto* liste = qobject_cast<QComboBox*>(&kontrol)) { // its parts take the focus themselves
+        liste->view()->setAccessibleName(kontrol.accessibleName());
+        if (liste->lineEdit())
+            liste->lineEdit()->setAccessibleName(kontrol.accessibleName());
+    }
 }

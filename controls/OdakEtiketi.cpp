@@ -43,8 +43,9 @@ void OdakEtiketi::odakGeldi(QWidget& kontrol)
     odaklı_ = &kontrol;
     const Bağ& bağ = bağlar_[&kontrol];
     QPalette palet = bağ.etiket->palette();
-    palet.setColor(QPalette::Active, QPalette::WindowText, EkranRengi(OdakMavisi, palet));
-    palet.setColor(QPalette::Inactive, QPalette::WindowText, EkranRengi(OdakMavisi, palet));
+    const QColor mavi = OkunurTon(EkranRengi(OdakMavisi, palet), palet.color(QPalette::Window));
+    palet.setColor(QPalette::Active, QPalette::WindowText, mavi);
+    palet.setColor(QPalette::Inactive, QPalette::WindowText, mavi);
     bağ.etiket->setPalette(palet);
     if (bağ.giriş == Giriş::TümünüSeç) // after the press that brought the focus has placed the caret
         QMetaObject::invokeMethod(

@@ -65,6 +65,7 @@ void AnaForm::kontrolleriKur()
     adlandır(YazdırKutusu, QStringLiteral("YazdırKutusu"));
 
     YazdırKutusu.hide();
+    YazdırKutusu.setFocusPolicy(Qt::NoFocus);
     MakaleMetniKutusu.YalnızOkunur();
     MakaleListesi.setContextMenuPolicy(Qt::CustomContextMenu);
     MakaleMetniKutusu.setContextMenuPolicy(Qt::CustomContextMenu);
@@ -222,7 +223,7 @@ void AnaForm::pencereDurumunuOku()
 
 void AnaForm::görünümAyarlarınıOku()
 {
-    MakaleYazıTipi = AyarOku(Ayarlar::YazıTipi, yüzey_->font().family());
+    MakaleYazıTipi = AyarOku(Ayarlar::YazıTipi, FormYazıTipiAdı());
     YazıBoyutuSırası = SıraSayısı(AyarOku(Ayarlar::YazıBoyutu));
     ZeminRengiSırası = SıraSayısı(AyarOku(Ayarlar::ZeminRengi));
 }

@@ -10,6 +10,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 void AnaForm::metinOlaylarınıBağla()
 {
@@ -44,7 +45,8 @@ void AnaForm::TümünüSeçMenüsü_Click()
 
 void AnaForm::KopyalaMenüsü_Click()
 {
-    QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText());
+    Olay("KopyalaMenüsü_Click",
+         [this] { QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText()); });
 }
 
 void AnaForm::YazdırMenüsü_Click()
@@ -54,7 +56,9 @@ void AnaForm::YazdırMenüsü_Click()
 
 void AnaForm::yazdır()
 {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // the print service may take seconds to answer
     const QList<Yazıcı> yazıcılar = Yazıcılar();
+    QGuiApplication::restoreOverrideCursor();
     if (yazıcılar.isEmpty()) {
         İletiGöster(QStringLiteral("Bilgisayarınızda yüklü bir YAZICI yok!\n\n"
                                    "Lütfen, bir yazıcı yükleyip tekrar deneyiniz."),
@@ -69,8 +73,8 @@ void AnaForm::yazdır()
     YazdırKutusu.FontSize(MakaleMetniKutusu.FontSize());
     YazdırKutusu.Text(MakaleMetniKutusu.SelLength() == 0 ? MakaleMetniKutusu.Text()
                                                          : MakaleMetniKutusu.SelText());
+    const auto sonunda = qScopeGuard([this] { YazdırKutusu.Text({}); });
     MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize());
-    YazdırKutusu.Text({});
 }
 
 void AnaForm::WordeYapıştırMenüsü_Click()

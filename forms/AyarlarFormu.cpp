@@ -10,7 +10,6 @@
 #include "forms/AnaForm.h"
 #include "text/TürkçeHarfler.h"
 
-#include <QFontInfo>
 #include <QGridLayout>
 
 namespace {
@@ -63,6 +62,7 @@ void AyarlarFormu::kontrolleriKur()
     // Only looked at: it takes no focus.
     ÖrnekMetinKutusu.Text(Metin(260));
     ÖrnekMetinKutusu.YalnızOkunur();
+    ÖrnekMetinKutusu.setAccessibleName(QStringLiteral("Örnek metin"));
     ÖrnekMetinKutusu.setFocusPolicy(Qt::NoFocus);
     ÖrnekMetinKutusu.setContextMenuPolicy(Qt::PreventContextMenu);
 }
@@ -160,7 +160,7 @@ void AyarlarFormu::yazıTipiniSeç(const QString& ad)
 
 void AyarlarFormu::İlkAyarlarButonu_Click()
 {
-    yazıTipiniSeç(QFontInfo(font()).family()); // the one it has where its own is not installed
+    yazıTipiniSeç(FormYazıTipiAdı());
     YazıTipiBoyutuListesi.ListIndex(static_cast<int>(Ayarlar::YazıBoyutu.Varsayılan));
     ZeminRengiListesi.ListIndex(static_cast<int>(Ayarlar::ZeminRengi.Varsayılan));
     TamamButonu.setEnabled(true); // also where all three were selected before

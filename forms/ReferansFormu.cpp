@@ -89,7 +89,8 @@ QString ReferansFormu::Referans(const QString& yazar, const QString& başlık, c
 
 void ReferansFormu::KopyalaButonu_Click()
 {
-    QGuiApplication::clipboard()->setText(ReferansBilgisiKutusu.Text());
+    Olay("KopyalaButonu_Click",
+         [this] { QGuiApplication::clipboard()->setText(ReferansBilgisiKutusu.Text()); });
 }
 
 void ReferansFormu::WordeYapıştırButonu_Click()

@@ -5,6 +5,7 @@
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QShortcut>
@@ -65,6 +66,7 @@ void YazıcıSeçmeFormu::kontrolleriKur()
     };
     etiketiKur(0, adYazısı, YazıcıAdlarıKutusu);
     etiketiKur(1, bağlantıYazısı, BağlantıNoktasıKutusu);
+    YazıcıAdlarıKutusu.view()->setAccessibleName(okunuş(adYazısı));
 
     TamamDüğmesi.setObjectName(QStringLiteral("TamamDüğmesi"));
     TamamDüğmesi.setText(tamamYazısı);
@@ -108,7 +110,6 @@ void YazıcıSeçmeFormu::yerleştir()
 
 void YazıcıSeçmeFormu::olaylarıBağla()
 {
-    YazıcıAdlarıKutusu.Click = [this] { YazıcıAdlarıKutusu_Click(); };
     connect(&TamamDüğmesi, &QPushButton::clicked, this, &YazıcıSeçmeFormu::TamamDüğmesi_Click);
     connect(&İptalDüğmesi, &QPushButton::clicked, this, &YazıcıSeçmeFormu::İptalDüğmesi_Click);
     // The dialog's own answer to Esc is that of the title bar.
@@ -131,14 +132,17 @@ void YazıcıSeçmeFormu::Form_Load()
                  if (yazıcılar_.isEmpty()) // and asking for the current one would ask the print service again
                      return;
                  YazıcıAdlarıKutusu.ListIndex(-1); // the first was selected when it was added
+                 YazıcıAdlarıKutusu.Click = [this] { YazıcıAdlarıKutusu_Click(); };
                  YazıcıAdlarıKutusu.Text(GeçerliYazıcı());
-             });
+             },
+             [this] { TamamDüğmesi.setEnabled(YazıcıAdlarıKutusu.ListIndex() >= 0); });
 }
 
 void YazıcıSeçmeFormu::YazıcıAdlarıKutusu_Click()
 {
     AdımAdım([this] {
         const Yazıcı& yazıcı = seçiliYazıcı();
+        TamamDüğmesi.setEnabled(true);
         YazıcıAdlarıKutusu.setToolTip(yazıcı.Ad);
         BağlantıNoktasıKutusu.Text(yazıcı.BağlantıNoktası);
         BağlantıNoktasıKutusu.setToolTip(yazıcı.BağlantıNoktası);
