@@ -33,6 +33,7 @@ window() {
         fi
         sleep 0.1
     done
+    kill -0 "$program" 2>/dev/null || die "Program kendiliğinden bitti; beklenen pencere: $1"
     import -window root "${TMPDIR:-/tmp}/belgenar-resim-hata.png" 2>/dev/null
     die "Pencere açılmadı: $1"
 }
