@@ -4,15 +4,15 @@
 
 DESKTOP_ID=example.tepsan.belgenar
 
-# Sets $data to where the user's programs keep their data (XDG Base Directory Specification).
+# Sets $data to where the user's programs keep their data.
 find_data_folder() {
     data=${XDG_DATA_HOME-}
     [ "${data:0:1}" = / ] || data=${HOME:?tanımlı değil}/.local/share # a relative one counts as none
     entry=$data/applications/$DESKTOP_ID.desktop
 }
 
-# The program as the value of Exec (Desktop Entry Specification, "The Exec key"): a quoted argument with
-# percent signs doubled, then as every string its backslashes doubled. The program's own path may hold no
+# The program as the value of Exec, as freedesktop.org has desktops read it: a quoted argument with percent
+# signs doubled, then as every string its backslashes doubled. The program's own path may hold no
 # "=" there, and GLib looks for it before it undoubles percent signs; a shell takes such a path as its argument.
 exec_value() {
     local quoted
@@ -60,7 +60,7 @@ menu_add() {
     put resources/masaustu/belgenar-kitaplik.1 man/man1/belgenar-kitaplik.1
     put "$text" "applications/$DESKTOP_ID.desktop" # last: its picture is there when the desktop sees it
     rm -f "$text"
-    touch "$data/icons/hicolor" # tells that an icon cache is out of date (Icon Theme Specification)
+    touch "$data/icons/hicolor" # tells that an icon cache is out of date
     update_desktop_database_if_there
     echo "Belgenar menüye eklendi: $entry"
 }
