@@ -79,17 +79,6 @@ qint64 değerleriOku(const QString& sql, QStringView sütun)
             QStringLiteral("Şubat 2003"), metin};
 }
 
-void kaydıEkle(Recordset& kayıtlar, const ÖrnekMakale& makale)
-{
-    kayıtlar.AddNew();
-    kayıtlar.Fields(u"YazarAdi").Value(makale.Yazar);
-    kayıtlar.Fields(u"MakaleBasligi").Value(makale.Başlık);
-    kayıtlar.Fields(u"YayimYeri").Value(makale.Yer);
-    kayıtlar.Fields(u"YayimTarihi").Value(makale.Tarih);
-    kayıtlar.Fields(u"MakaleMetni").Value(makale.Metin);
-    kayıtlar.Update();
-}
-
 qint64 eklenenSayısı()
 {
     return Veritabanı->OpenRecordset(EklenenlerSql).RecordCount();
@@ -285,7 +274,7 @@ void KaydetmeyiÖlç(const PencereOrtamı& ortam)
     makaleyleÖlç(
         ortam, QStringLiteral("Kaydetme, yalnız kitaplıkta"),
         [&kayıtlar] { kayıtlar = Veritabanı->OpenRecordset(TümMakalelerSql); },
-        [&] { kaydıEkle(*kayıtlar, yeniMakale(sıra++)); });
+        [&] { KaydıEkle(*kayıtlar, yeniMakale(sıra++)); });
     kayıtlar.reset();
     Sağla(eklenenSayısı() == sıra, "all articles saved");
     eklenenleriSil();
@@ -297,7 +286,7 @@ void SilmeyiÖlç(const PencereOrtamı& ortam)
     Veritabanı->TekİşlemdeYap([] {
         Recordset kayıtlar = Veritabanı->OpenRecordset(TümMakalelerSql);
         for (int i = 0; i < 2 * silinenler; ++i)
-            kaydıEkle(kayıtlar, yeniMakale(i));
+            KaydıEkle(kayıtlar, yeniMakale(i));
     });
     int sıra = 0;
     SilFormu form(ortam.Pencere);

@@ -109,15 +109,7 @@ void ÖrnekKitaplık::doldur() const
     const Workspace alan = SahipÇalışmaAlanı(motor);
     const Database veritabanı = KitaplıkAç(alan, klasör_);
     Recordset kayıtlar = veritabanı.OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler]"));
-    const auto ekle = [&kayıtlar](const ÖrnekMakale& makale) {
-        kayıtlar.AddNew();
-        kayıtlar.Fields(u"YazarAdi").Value(makale.Yazar);
-        kayıtlar.Fields(u"MakaleBasligi").Value(makale.Başlık);
-        kayıtlar.Fields(u"YayimYeri").Value(makale.Yer);
-        kayıtlar.Fields(u"YayimTarihi").Value(makale.Tarih);
-        kayıtlar.Fields(u"MakaleMetni").Value(makale.Metin);
-        kayıtlar.Update();
-    };
+    const auto ekle = [&kayıtlar](const ÖrnekMakale& makale) { KaydıEkle(kayıtlar, makale); };
     veritabanı.TekİşlemdeYap([&] {
         MetinÜreteci üreteç(Tohum);
         for (int i = 0; i < makaleSayısı_; ++i)
@@ -143,4 +135,15 @@ void ÖrnekKitaplık::doldur() const
         aylar[üreteç.Sayı(static_cast<int>(aylar.size()))] + u' ' + QString::number(1950 + üreteç.Sayı(70));
     makale.Metin = üreteç.Metin(MetinBoyu);
     return makale;
+}
+
+void KaydıEkle(Recordset& kayıtlar, const ÖrnekMakale& makale)
+{
+    kayıtlar.AddNew();
+    kayıtlar.Fields(u"YazarAdi").Value(makale.Yazar);
+    kayıtlar.Fields(u"MakaleBasligi").Value(makale.Başlık);
+    kayıtlar.Fields(u"YayimYeri").Value(makale.Yer);
+    kayıtlar.Fields(u"YayimTarihi").Value(makale.Tarih);
+    kayıtlar.Fields(u"MakaleMetni").Value(makale.Metin);
+    kayıtlar.Update();
 }

@@ -1,6 +1,8 @@
 // Libraries to measure with: made-up articles that are the same in every run.
 #pragma once
 
+#include "store/Recordset.h"
+
 #include <QList>
 #include <QRandomGenerator>
 #include <QString>
@@ -68,3 +70,6 @@ private:
     int çokYazanınMakaleleri_;
     QList<qsizetype> uzunluklar_;
 };
+
+/// Appends an article to the rows of the whole table.
+void KaydıEkle(Recordset& kayıtlar, const ÖrnekMakale& makale);
