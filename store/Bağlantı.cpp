@@ -2,6 +2,7 @@
 
 #include "store/BenzerDeseni.h"
 #include "store/DosyaTanıma.h"
+#include "store/SistemHatası.h"
 #include "text/TürkçeSıralama.h"
 
 #define SQLITE_HAS_CODEC
@@ -12,6 +13,8 @@
 
 #include <cerrno>
 #include <chrono>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -71,11 +74,67 @@ QByteArray anahtarMetni(const Anahtar& anahtar)
                                                   : anahtar.değer;
 }
 
-HataNo açmaHatası(const QFileInfo& bilgi, AçmaKipi kip)
+// SQLite calls a failed read damage and forgets why a write failed before its caller can ask: what the
+// system said is noted on the way. One thread works on libraries.
+int sonErişimHatası = 0; // errno; 0 for none since the statement began
+ssize_t (*asılOku)(int, void*, std::size_t, off_t) = nullptr;
+ssize_t (*asılYaz)(int, const void*, std::size_t, off_t) = nullptr;
+
+template<class Sonuç> Sonuç hatayıAnımsa(Sonuç sonuç)
 {
-    if (kip != AçmaKipi::Oluştur)
-        return HataNo::İzinYok;
-    return QFileInfo::exists(bilgi.absolutePath()) ? HataNo::SaltOkunur : HataNo::DosyaYok;
+    if (sonuç < 0 && errno != EINTR)
+        sonErişimHatası = errno;
+    return sonuç;
+}
+
+ssize_t oku(int no, void* baytlar, std::size_t boy, off_t yer)
+{
+    return hatayıAnımsa(asılOku(no, baytlar, boy, yer));
+}
+
+ssize_t yaz(int no, const void* baytlar, std::size_t boy, off_t yer)
+{
+    return hatayıAnımsa(asılYaz(no, baytlar, boy, yer));
+}
+
+/// Where this build of SQLite has neither call, nothing is noted.
+template<class Çağrı> void arayaGir(Çağrı& asıl, Çağrı yerine, std::initializer_list<const char*> adlar)
+{
+    sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
+    for (const char* ad : adlar) {
+        if (const sqlite3_syscall_ptr eski = vfs->xGetSystemCall(vfs, ad); eski && !asıl) {
+            asıl = reinterpret_cast<Çağrı>(eski);
+            vfs->xSetSystemCall(vfs, ad, reinterpret_cast<sqlite3_syscall_ptr>(yerine));
+        }
+    }
+}
+
+void erişimleriİzle()
+{
+    static const bool izleniyor = [] {
+        arayaGir(asılOku, &oku, {"pread64", "pread"});
+        arayaGir(asılYaz, &yaz, {"pwrite64", "pwrite"});
+        return true;
+    }();
+    Q_UNUSED(izleniyor)
+}
+
+/// A missing file is left over from another call: the file itself is open.
+HataNo erişimHatası(int sistem)
+{
+    const HataNo numara = SistemHataNo(sistem, Erişim::Yazma);
+    return numara == HataNo::DosyaYok ? HataNo::DiskHatası : numara;
+}
+
+void varOlmalı(const QString& yol)
+{
+    struct stat bilgi = {};
+    if (stat(QFile::encodeName(yol).constData(), &bilgi) != 0)
+        SistemHatasıVer(errno, Erişim::Okuma, yol);
+    if (S_ISDIR(bilgi.st_mode))
+        throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
+    if (bilgi.st_size == 0) // SQLite would take it for a new, empty database
+        throw VeritabanıHatası(HataNo::DosyaBoş, yol);
 }
 
 } // namespace
@@ -100,17 +159,11 @@ void Deyim::Bırakıcı::operator()(sqlite3_stmt* deyim) const noexcept
 
 Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip) : yol_(yol)
 {
-    const QFileInfo bilgi(yol);
-    if (kip == AçmaKipi::Oluştur && bilgi.exists())
+    erişimleriİzle();
+    if (kip != AçmaKipi::Oluştur)
+        varOlmalı(yol);
+    else if (QFileInfo::exists(yol))
         throw VeritabanıHatası(HataNo::DosyaVar, yol);
-    if (kip != AçmaKipi::Oluştur) {
-        if (!bilgi.exists())
-            throw VeritabanıHatası(HataNo::DosyaYok, yol);
-        if (bilgi.isDir())
-            throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
-        if (bilgi.size() == 0) // SQLite would take it for a new, empty database
-            throw VeritabanıHatası(HataNo::DosyaBoş, yol);
-    }
 
     const int bayraklar = kip == AçmaKipi::Oku       ? SQLITE_OPEN_READONLY
                           : kip == AçmaKipi::Oluştur ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
@@ -119,7 +172,8 @@ Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip
     const int durum = sqlite3_open_v2(QFile::encodeName(yol).constData(), &db, bayraklar, nullptr);
     db_.reset(db);
     if (durum == SQLITE_CANTOPEN)
-        throw VeritabanıHatası(açmaHatası(bilgi, kip), yol);
+        SistemHatasıVer(sqlite3_system_errno(db), kip == AçmaKipi::Oluştur ? Erişim::Yazma : Erişim::Okuma,
+                        yol);
     denetle(durum);
     sqlite3_extended_result_codes(db, 1);
     sqlite3_busy_timeout(db, KilitBekleme);
@@ -142,19 +196,29 @@ Bağlantı::~Bağlantı() = default;
 // The first real read: only now the key is tried.
 void Bağlantı::ilkOkuma()
 {
-    const int durum =
-        sqlite3_exec(db_.get(), "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+    constexpr auto sql = "SELECT count(*) FROM sqlite_master";
+    int durum = dene(sql);
+    if (durum == SQLITE_IOERR_DIR_FSYNC) // what a crash left is rolled back, and its journal gone
+        durum = dene(sql);
     switch (durum & 0xff) {
     case SQLITE_OK:
         return;
     case SQLITE_CORRUPT: // the first page deciphers, but promises more pages than there are
-        throw VeritabanıHatası(HataNo::DosyaYarım, yol_);
     case SQLITE_NOTADB:
     case SQLITE_ERROR:
-        throw VeritabanıHatası(OkunamayanDosyaTanısı(yol_), yol_);
+        if (sonErişimHatası != 0)
+            SistemHatasıVer(sonErişimHatası, Erişim::Okuma, yol_);
+        throw VeritabanıHatası(
+            (durum & 0xff) == SQLITE_CORRUPT ? HataNo::DosyaYarım : OkunamayanDosyaTanısı(yol_), yol_);
     default:
         hataVer(durum, true);
     }
+}
+
+int Bağlantı::dene(const char* sql) const
+{
+    sonErişimHatası = 0;
+    return sqlite3_exec(db_.get(), sql, nullptr, nullptr, nullptr);
 }
 
 void Bağlantı::anahtarıVer(const Anahtar& anahtar)
@@ -185,10 +249,12 @@ void Bağlantı::hataVer(int durum, bool adımda) const
     case SQLITE_PERM:
     case SQLITE_AUTH:
         throw VeritabanıHatası(HataNo::İzinYok, yol_);
-    case SQLITE_CANTOPEN: // a journal that can't be made: the folder takes no new files
-        throw VeritabanıHatası(HataNo::SaltOkunur, yol_);
+    case SQLITE_CANTOPEN: // a journal that can't be made
+        SistemHatasıVer(sqlite3_system_errno(db_.get()), Erişim::Yazma, yol_);
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
+        if (sonErişimHatası != 0) // it could not be read; what it holds may be whole
+            SistemHatasıVer(sonErişimHatası, Erişim::Okuma, yol_);
         throw VeritabanıHatası(HataNo::DosyaBozuk, yol_);
     case SQLITE_TOOBIG:
         throw VeritabanıHatası(HataNo::DeğerÇokUzun, yol_);
@@ -201,9 +267,8 @@ void Bağlantı::hataVer(int durum, bool adımda) const
     case SQLITE_IOERR:
         if (durum == SQLITE_IOERR_SHORT_READ)
             throw VeritabanıHatası(HataNo::DosyaYarım, yol_);
-        if (const int sistem = sqlite3_system_errno(db_.get()); sistem == EDQUOT || sistem == ENOSPC)
-            throw VeritabanıHatası(HataNo::DiskDolu, yol_);
-        throw VeritabanıHatası(HataNo::DiskHatası, yol_);
+        throw VeritabanıHatası(
+            erişimHatası(sonErişimHatası != 0 ? sonErişimHatası : sqlite3_system_errno(db_.get())), yol_);
     default:
         break;
     }
@@ -249,6 +314,27 @@ void Bağlantı::İliştir(const QString& yol, const Anahtar& anahtar, const QBy
     if (sürüm4_)
         Sayı("PRAGMA " + ad + ".cipher_compatibility=3");
     Sayı("PRAGMA " + ad + ".cipher_page_size=" + QByteArray::number(SayfaBoyu));
+}
+
+bool Bağlantı::İşlemde() const
+{
+    return sqlite3_get_autocommit(db_.get()) == 0;
+}
+
+// The journal's deletion is the commit. What can fail behind it is the sync of its folder: the next opening
+// finds no journal and reads the new state, so telling a failure would have the user do the work twice.
+void Bağlantı::Onayla()
+{
+    const int durum = dene("COMMIT");
+    if (durum != SQLITE_OK && !(durum == SQLITE_IOERR_DIR_FSYNC && günlükGitti()))
+        hataVer(durum, true);
+}
+
+bool Bağlantı::günlükGitti() const
+{
+    struct stat bilgi = {};
+    const QByteArray günlük = QByteArray(sqlite3_db_filename(db_.get(), "main")) + "-journal";
+    return lstat(günlük.constData(), &bilgi) != 0 && errno == ENOENT;
 }
 
 qint64 Bağlantı::SonKimlik() const
@@ -329,6 +415,7 @@ Deyim& Deyim::Bağla(int sıra, const QByteArray& baytlar)
 
 bool Deyim::Adım()
 {
+    sonErişimHatası = 0;
     const int durum = sqlite3_step(deyim_.get());
     if (durum == SQLITE_ROW)
         return true;
@@ -388,9 +475,10 @@ QString Deyim::SütunAdı(int sütun) const
     return QString::fromUtf8(sqlite3_column_name(deyim_.get(), sütun));
 }
 
-İşlem::İşlem(Bağlantı& bağlantı) : bağlantı_(bağlantı)
+İşlem::İşlem(Bağlantı& bağlantı) : bağlantı_(bağlantı), açık_(!bağlantı.İşlemde())
 {
-    bağlantı_.Çalıştır("BEGIN IMMEDIATE");
+    if (açık_)
+        bağlantı_.Çalıştır("BEGIN IMMEDIATE");
 }
 
 İşlem::~İşlem()
@@ -406,6 +494,7 @@ QString Deyim::SütunAdı(int sütun) const
 
 void İşlem::Onayla()
 {
-    bağlantı_.Çalıştır("COMMIT");
+    if (açık_)
+        bağlantı_.Onayla();
     açık_ = false;
 }

@@ -47,8 +47,8 @@ class Bağlantı
 {
 public:
     /// Opens the file, gives the key, registers the Turkish collation and LIKE, and reads once.
-    /// Throws 3024, 3027, 3031 (see OkunamayanDosyaTanısı), 3043, 3045, 3051, 3343, 3901 or 3902. Oluştur
-    /// refuses an existing file with 3204.
+    /// Throws 3024, 3026, 3027, 3031 (see OkunamayanDosyaTanısı), 3043, 3044, 3045, 3048, 3051, 3343, 3901 or
+    /// 3902. Oluştur refuses an existing file with 3204.
     Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip);
     ~Bağlantı();
     Bağlantı(const Bağlantı&) = delete;
@@ -62,6 +62,12 @@ public:
 
     /// Attaches another file, always with a key: without one SQLCipher may write plain text.
     void İliştir(const QString& yol, const Anahtar& anahtar, const QByteArray& ad);
+
+    /// Whether a transaction is open.
+    bool İşlemde() const;
+    /// Ends the open transaction. Once its journal is gone it stands, whatever fails after that; only what
+    /// fails before is thrown.
+    void Onayla();
 
     qint64 SonKimlik() const;     ///< key of the row inserted last
     qint64 DeğişenSatır() const;  ///< rows changed by the last statement
@@ -83,6 +89,8 @@ private:
 
     void anahtarıVer(const Anahtar& anahtar);
     void ilkOkuma();
+    int dene(const char* sql) const;
+    bool günlükGitti() const;
     [[noreturn]] void hataVer(int durum, bool adımda) const;
     void denetle(int durum) const;
     static int ilerleme(void* bağlantı);
@@ -135,7 +143,7 @@ private:
     std::unique_ptr<sqlite3_stmt, Bırakıcı> deyim_;
 };
 
-/// A write transaction: rolled back when destroyed before Onayla.
+/// A write transaction: rolled back when destroyed before Onayla. Within an open one it is a part of that.
 class İşlem
 {
 public:
@@ -148,5 +156,5 @@ public:
 
 private:
     Bağlantı& bağlantı_;
-    bool açık_ = true;
+    bool açık_;
 };

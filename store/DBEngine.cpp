@@ -2,9 +2,12 @@
 
 #include "store/DosyaTanıma.h"
 #include "store/KitaplıkDosyası.h"
+#include "store/SistemHatası.h"
 #include "store/ÇalışmaGrubu.h"
 
 #include <QFileInfo>
+
+#include <cerrno>
 
 namespace {
 
@@ -18,7 +21,7 @@ DBEngine::DBEngine(İlerlemeBildirimi bildir) : bildir_(std::move(bildir)) {}
 void DBEngine::SystemDB(const QString& yol)
 {
     if (!QFileInfo::exists(yol))
-        throw VeritabanıHatası(HataNo::DosyaYok, yol);
+        SistemHatasıVer(ENOENT, Erişim::Okuma, yol);
     if (yol == grupYolu_)
         return;
     kilit_ = KlasörKilidi(QFileInfo(yol).absolutePath()); // the old one is let go of after it

@@ -2,13 +2,13 @@
 
 #include "store/DosyaTanıma.h"
 #include "store/MakaleTablosu.h"
+#include "store/SistemHatası.h"
 #include "store/ÇalışmaGrubu.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,33 +18,16 @@ namespace {
 
 constexpr std::size_t BlokBoyu = 4 << 20;
 
-[[noreturn]] void sistemHatası(int hata, const QString& yol)
-{
-    switch (hata) {
-    case ENOENT:
-        throw VeritabanıHatası(HataNo::DosyaYok, yol);
-    case ENOSPC:
-    case EDQUOT:
-        throw VeritabanıHatası(HataNo::DiskDolu, yol);
-    case EROFS:
-    case EACCES:
-    case EPERM:
-        throw VeritabanıHatası(HataNo::SaltOkunur, yol);
-    default:
-        throw VeritabanıHatası(HataNo::DiskHatası,
-                               yol + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(hata)));
-    }
-}
-
 /// A file descriptor that closes itself.
 class Tanıtıcı
 {
 public:
     Tanıtıcı(const QString& yol, int bayraklar, mode_t izin = 0)
-        : yol_(yol), no_(open(QFile::encodeName(yol).constData(), bayraklar | O_CLOEXEC, izin))
+        : yol_(yol), erişim_((bayraklar & O_ACCMODE) == O_RDONLY ? Erişim::Okuma : Erişim::Yazma),
+          no_(open(QFile::encodeName(yol).constData(), bayraklar | O_CLOEXEC, izin))
     {
         if (no_ < 0)
-            sistemHatası(errno, yol_);
+            SistemHatasıVer(errno, erişim_, yol_);
     }
     ~Tanıtıcı() { close(no_); }
     Tanıtıcı(const Tanıtıcı&) = delete;
@@ -58,7 +41,7 @@ public:
         if (aktarılan > 0)
             return true;
         if (aktarılan < 0 && errno != EXDEV && errno != ENOSYS && errno != EINVAL && errno != EOPNOTSUPP)
-            sistemHatası(errno, yol_);
+            SistemHatasıVer(errno, Erişim::Yazma, yol_);
         // Some file systems also say 0 too early, so the end is what read calls the end.
         std::vector<char> blok(enÇok);
         const std::size_t boy = diğer.oku(blok.data(), blok.size());
@@ -68,15 +51,21 @@ public:
     void DiskeYaz() const
     {
         if (fsync(no_) != 0)
-            sistemHatası(errno, yol_);
+            SistemHatasıVer(errno, Erişim::Yazma, yol_);
+    }
+    /// The same for a folder; some file systems have no such call, and keep order by other means.
+    void KlasörüDiskeYaz() const
+    {
+        if (fsync(no_) != 0 && errno != EINVAL && errno != ENOTSUP)
+            SistemHatasıVer(errno, Erişim::Yazma, yol_);
     }
     /// Owner (where this process may give files away) and access rights of another file.
     void HaklarıVer(const struct stat& diğer) const
     {
         if (geteuid() == 0 && fchown(no_, diğer.st_uid, diğer.st_gid) != 0)
-            sistemHatası(errno, yol_);
+            SistemHatasıVer(errno, Erişim::Yazma, yol_);
         if (fchmod(no_, diğer.st_mode & 07777) != 0)
-            sistemHatası(errno, yol_);
+            SistemHatasıVer(errno, Erişim::Yazma, yol_);
     }
 
 private:
@@ -87,7 +76,7 @@ private:
             okunan = read(no_, baytlar, boy);
         while (okunan < 0 && errno == EINTR);
         if (okunan < 0)
-            sistemHatası(errno, yol_);
+            SistemHatasıVer(errno, Erişim::Okuma, yol_);
         return static_cast<std::size_t>(okunan);
     }
     void yaz(const char* baytlar, std::size_t boy) const
@@ -97,19 +86,20 @@ private:
             if (yazılan < 0 && errno == EINTR)
                 continue;
             if (yazılan < 0)
-                sistemHatası(errno, yol_);
+                SistemHatasıVer(errno, Erişim::Yazma, yol_);
             baytlar += yazılan;
             boy -= static_cast<std::size_t>(yazılan);
         }
     }
 
     QString yol_;
+    Erişim erişim_;
     int no_;
 };
 
 void klasörüDiskeYaz(const QString& yol)
 {
-    Tanıtıcı(QFileInfo(yol).absolutePath(), O_RDONLY | O_DIRECTORY).DiskeYaz();
+    Tanıtıcı(QFileInfo(yol).absolutePath(), O_RDONLY | O_DIRECTORY).KlasörüDiskeYaz();
 }
 
 void kopyasınıYerineKoy(const QString& yeni, const QString& hedef, const struct stat& eski,
@@ -226,7 +216,7 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
         throw VeritabanıHatası(HataNo::DosyaYok, kitaplık);
     struct stat eski = {};
     if (stat(QFile::encodeName(hedef).constData(), &eski) != 0)
-        sistemHatası(errno, hedef);
+        SistemHatasıVer(errno, Erişim::Okuma, hedef);
     try {
         kopyasınıYerineKoy(yeni, hedef, eski, bildir);
     } catch (const VeritabanıHatası& hata) {
@@ -241,7 +231,7 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
 void DosyayıTaşı(const QString& yol, const QString& yeniYol)
 {
     if (rename(QFile::encodeName(yol).constData(), QFile::encodeName(yeniYol).constData()) != 0)
-        sistemHatası(errno, yeniYol);
+        SistemHatasıVer(errno, Erişim::Yazma, yeniYol);
     klasörüDiskeYaz(yeniYol);
 }
 
@@ -254,7 +244,7 @@ void DiskeYaz(const QString& yol)
 void DosyayıSil(const QString& yol)
 {
     if (unlink(QFile::encodeName(yol).constData()) != 0 && errno != ENOENT)
-        sistemHatası(errno, yol);
+        SistemHatasıVer(errno, Erişim::Yazma, yol);
 }
 
 QString BağlantıMetnindenParola(const QString& bağlantıMetni)

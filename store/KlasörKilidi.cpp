@@ -1,8 +1,11 @@
 #include "store/KlasörKilidi.h"
 
-#include "store/VeritabanıHatası.h"
+#include "store/MakaleKitaplığı.h"
+#include "store/SistemHatası.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QStringList>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -10,28 +13,59 @@
 #include <unistd.h>
 #include <utility>
 
-KlasörKilidi::KlasörKilidi(const QString& klasör)
-    : tanıtıcı_(open(QFile::encodeName(klasör).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+namespace {
+
+/// The folder, and those in which its library's files really lie; each once.
+QStringList gerçekKlasörler(const QString& klasör)
 {
-    if (tanıtıcı_ < 0)
-        throw VeritabanıHatası(errno == EACCES ? HataNo::İzinYok : HataNo::DosyaYok, klasör);
-    if (flock(tanıtıcı_, LOCK_EX | LOCK_NB) != 0) {
-        const HataNo hata = errno == EWOULDBLOCK ? HataNo::DosyaKullanımda : HataNo::DiskHatası;
-        close(tanıtıcı_);
-        throw VeritabanıHatası(hata, klasör);
+    const QString kendisi = QFileInfo(klasör).canonicalFilePath();
+    QStringList klasörler = {kendisi.isEmpty() ? klasör : kendisi};
+    for (const QStringView ad : {KitaplıkDosyaları::Veritabanı, KitaplıkDosyaları::ÇalışmaGrubu}) {
+        const QFileInfo dosya(klasör + u'/' + ad.toString());
+        if (dosya.exists())
+            klasörler.append(dosya.canonicalPath());
     }
+    klasörler.removeDuplicates();
+    return klasörler;
+}
+
+} // namespace
+
+KlasörKilidi::KlasörKilidi(const QString& klasör)
+{
+    try {
+        for (const QString& gerçek : gerçekKlasörler(klasör))
+            kilitle(gerçek);
+    } catch (...) {
+        for (const int tanıtıcı : tanıtıcılar_)
+            close(tanıtıcı);
+        throw;
+    }
+}
+
+void KlasörKilidi::kilitle(const QString& klasör)
+{
+    const int tanıtıcı = open(QFile::encodeName(klasör).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (tanıtıcı < 0)
+        SistemHatasıVer(errno, Erişim::Okuma, klasör);
+    tanıtıcılar_.push_back(tanıtıcı);
+    if (flock(tanıtıcı, LOCK_EX | LOCK_NB) != 0)
+        throw VeritabanıHatası(errno == EWOULDBLOCK ? HataNo::DosyaKullanımda : HataNo::DiskHatası, klasör);
 }
 
 KlasörKilidi::~KlasörKilidi()
 {
-    if (tanıtıcı_ >= 0)
-        close(tanıtıcı_);
+    for (const int tanıtıcı : tanıtıcılar_)
+        close(tanıtıcı);
 }
 
-KlasörKilidi::KlasörKilidi(KlasörKilidi&& diğer) noexcept : tanıtıcı_(std::exchange(diğer.tanıtıcı_, -1)) {}
+KlasörKilidi::KlasörKilidi(KlasörKilidi&& diğer) noexcept
+    : tanıtıcılar_(std::exchange(diğer.tanıtıcılar_, {}))
+{
+}
 
 KlasörKilidi& KlasörKilidi::operator=(KlasörKilidi&& diğer) noexcept
 {
-    std::swap(tanıtıcı_, diğer.tanıtıcı_);
+    tanıtıcılar_.swap(diğer.tanıtıcılar_);
     return *this;
 }

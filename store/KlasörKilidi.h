@@ -3,20 +3,24 @@
 
 #include <QString>
 
-/// Holds an exclusive lock on a folder while it lives; the system drops it when the process ends,
-/// however it ends, and no file is left behind. The folder's own descriptor is locked, since opening
-/// the library file a second time would drop SQLite's locks on it.
+#include <vector>
+
+/// Holds an exclusive lock on a program folder while it lives, and on the folders in which its library's
+/// files really lie where they are links: the same library is locked by whatever way it is reached. The
+/// system drops the locks when the process ends, however it ends, and no file is left behind. The folders'
+/// own descriptors are locked, since opening the library file a second time would drop SQLite's locks on it.
 class KlasörKilidi
 {
 public:
-    /// Throws 3045 when another process holds the lock, 3024 when there is no such folder, 3051 when
-    /// it may not be read, and 3043
-    /// where the file system can't lock folders.
+    /// Throws 3045 when another process holds the lock, 3024 when there is no such folder, 3044, 3048 and
+    /// 3051 when it can't be opened, and 3043 where the file system can't lock folders.
     explicit KlasörKilidi(const QString& klasör);
     ~KlasörKilidi();
     KlasörKilidi(KlasörKilidi&& diğer) noexcept;
     KlasörKilidi& operator=(KlasörKilidi&& diğer) noexcept;
 
 private:
-    int tanıtıcı_ = -1;
+    void kilitle(const QString& klasör);
+
+    std::vector<int> tanıtıcılar_;
 };

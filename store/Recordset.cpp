@@ -254,10 +254,12 @@ void Recordset::Update()
 
 void Recordset::ekle()
 {
+    İşlem işlem(*bağlantı_);
     Deyim deyim(*bağlantı_, EkleSql);
     for (std::size_t i = 0; i < bekleyenler_.size(); ++i)
         deyim.Bağla(static_cast<int>(i) + 1, QStringView(bekleyenler_[i].value_or(QStringLiteral(""))));
     deyim.Çalıştır();
+    işlem.Onayla();
     kimlikler_.push_back(bağlantı_->SonKimlik());
     metinler_.Ekle({});
     satırSayısı_ = kimlikler_.size();
@@ -272,6 +274,7 @@ void Recordset::değiştir()
     }
     if (atamalar.isEmpty())
         return;
+    İşlem işlem(*bağlantı_);
     Deyim deyim(*bağlantı_, "UPDATE Makaleler SET " + atamalar.join(", ") + " WHERE Kimlik=?6");
     for (std::size_t i = 0; i < bekleyenler_.size(); ++i) {
         if (bekleyenler_[i])
@@ -280,6 +283,7 @@ void Recordset::değiştir()
     deyim.Bağla(6, kimlikler_[yer_]).Çalıştır();
     if (bağlantı_->DeğişenSatır() == 0)
         throw VeritabanıHatası(HataNo::KayıtSilinmiş);
+    işlem.Onayla();
 }
 
 void Recordset::CancelUpdate()
@@ -291,10 +295,14 @@ void Recordset::CancelUpdate()
 void Recordset::Delete()
 {
     değiştirilebilirOlmalı();
-    Deyim(*bağlantı_, SilSql).Bağla(1, geçerliKimlik()).Çalıştır();
+    const qint64 kimlik = geçerliKimlik();
+    İşlem işlem(*bağlantı_);
+    Deyim(*bağlantı_, SilSql).Bağla(1, kimlik).Çalıştır();
+    const bool silindi = bağlantı_->DeğişenSatır() != 0;
+    işlem.Onayla();
     kimlikler_[yer_] = 0;
     CancelUpdate();
-    if (bağlantı_->DeğişenSatır() == 0) // another recordset was first
+    if (!silindi) // another recordset was first
         throw VeritabanıHatası(HataNo::KayıtSilinmiş);
 }
 

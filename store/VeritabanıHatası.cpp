@@ -23,6 +23,10 @@ QString cümle(HataNo numara)
         return QStringLiteral("Dosya, bu programın tanımadığı bir sürümle oluşturulmuş.");
     case HataNo::DiskHatası:
         return QStringLiteral("Disk okuma ya da yazma hatası.");
+    case HataNo::YolGeçersiz:
+        return QStringLiteral("Dosya yolu geçerli değil; adında UTF-8 olmayan baytlar var.");
+    case HataNo::ÇokDosyaAçık:
+        return QStringLiteral("Çok fazla dosya açık; sistem yenisini açamıyor.");
     case HataNo::DosyaKullanımda:
         return QStringLiteral("Dosya kullanımda; başka bir program onu açık tutuyor.");
     case HataNo::DosyaBozuk:

@@ -133,7 +133,9 @@ void ÇalışmaGrubu::Ekle(const User& hesap)
 
 void ÇalışmaGrubu::Sil(const QString& ad)
 {
+    İşlem işlem(bağlantı_);
     Deyim(bağlantı_, "DELETE FROM Hesaplar WHERE Ad=?1").Bağla(1, ad).Çalıştır();
     if (bağlantı_.DeğişenSatır() == 0)
         throw VeritabanıHatası(HataNo::ÖğeYok, ad);
+    işlem.Onayla();
 }

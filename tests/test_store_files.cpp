@@ -9,8 +9,12 @@
 #include <QSet>
 #include <QTest>
 
+#include <cerrno>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -41,7 +45,46 @@ bool diskBoyu(const QString& klasör, qint64 bayt, unsigned long bayraklar = MS_
     return mount("tmpfs", yol.constData(), "tmpfs", bayraklar, boy.constData()) == 0;
 }
 
+// The calls below stand in front of the C library's own for this whole program, SQLite included: while an
+// error is set here, they fail with it.
+struct
+{
+    int Klasör = 0, Okuma = 0, Yazma = 0; // errno of: syncing a folder, reading, writing
+} arıza;
+
+int başarısız(int hata)
+{
+    errno = hata;
+    return -1;
+}
+
+int eşitle(long çağrı, int no)
+{
+    struct stat bilgi = {};
+    const bool klasör = fstat(no, &bilgi) == 0 && S_ISDIR(bilgi.st_mode);
+    return klasör && arıza.Klasör ? başarısız(arıza.Klasör) : int(syscall(çağrı, no));
+}
+
 } // namespace
+
+extern "C" {
+int fsync(int no)
+{
+    return eşitle(SYS_fsync, no);
+}
+int fdatasync(int no)
+{
+    return eşitle(SYS_fdatasync, no);
+}
+ssize_t pread64(int no, void* baytlar, size_t boy, off64_t yer)
+{
+    return arıza.Okuma ? başarısız(arıza.Okuma) : syscall(SYS_pread64, no, baytlar, boy, yer);
+}
+ssize_t pwrite64(int no, const void* baytlar, size_t boy, off64_t yer)
+{
+    return arıza.Yazma ? başarısız(arıza.Yazma) : syscall(SYS_pwrite64, no, baytlar, boy, yer);
+}
+}
 
 class TestStoreFiles : public QObject
 {
@@ -267,6 +310,68 @@ private slots:
         QVERIFY(diskBoyu(klasör, ÇokYer));
         r.Update(); // was still pending
         QCOMPARE(Makaleler(*açılış.Veritabanı).last().Metin, makaleler_.last().Metin);
+    }
+
+    void faults_data()
+    {
+        QTest::addColumn<int>("klasör");
+        QTest::addColumn<int>("okuma");
+        QTest::addColumn<int>("yazma");
+        QTest::addColumn<int>("başlatma"); // the number that a start gives
+        QTest::addColumn<int>("saklama");  // and the saving of a further article
+        QTest::newRow("no sync of folders here") << EINVAL << 0 << 0 << 0 << 0;
+        QTest::newRow("folder can't be synced") << EIO << 0 << 0 << 3043 << 0;
+        QTest::newRow("can't be read") << 0 << EIO << 0 << 3043 << 3043;
+        QTest::newRow("can't be written") << 0 << 0 << EIO << 3043 << 3043;
+        QTest::newRow("over the quota") << 0 << 0 << EDQUOT << 3026 << 3026;
+        QTest::newRow("no more rights") << 0 << 0 << EACCES << 3027 << 3027;
+    }
+
+    // Nothing is lost, and what is told as failed can be tried again without a double.
+    void faults()
+    {
+        QFETCH(int, klasör);
+        QFETCH(int, okuma);
+        QFETCH(int, yazma);
+        const auto bozukken = [&](const std::function<void()>& iş) {
+            arıza = {klasör, okuma, yazma};
+            const auto düzelt = qScopeGuard([] { arıza = {}; });
+            return HataNumarası(iş);
+        };
+        const QString yol = hazırla();
+        QTEST(bozukken([&] { Açılış{yol}; }), "başlatma");
+        QCOMPARE(oku(yol), makaleler_);
+        const Açılış açılış(yol);
+        Recordset r = açılış.Veritabanı->OpenRecordset(Tümü + u" WHERE 1=0"_s);
+        r.AddNew();
+        r.Fields(u"MakaleMetni").Value(makaleler_.last().Metin);
+        const int saklama = bozukken([&] { r.Update(); });
+        QTEST(saklama, "saklama");
+        QCOMPARE(Makaleler(*açılış.Veritabanı).size(), makaleler_.size() + (saklama == 0));
+        if (saklama != 0)
+            r.Update(); // is still pending
+        QCOMPARE(HataNumarası([&] { r.Update(); }), 3020);
+        const auto sil = bozukken([&] { r.MoveFirst(), r.Delete(); });
+        QTEST(sil, "saklama");
+        QCOMPARE(Makaleler(*açılış.Veritabanı).size(), makaleler_.size() + (sil != 0));
+    }
+
+    // Neither the folder nor a file is "not found" where the system has no handle left for it.
+    void noHandles()
+    {
+        const QString klasör = hazırla();
+        rlimit sınır = {};
+        QCOMPARE(getrlimit(RLIMIT_NOFILE, &sınır), 0);
+        const auto geri = qScopeGuard([&] { setrlimit(RLIMIT_NOFILE, &sınır); });
+        const int boş = dup(0);
+        close(boş);
+        for (int fazla = 0; fazla < 4; ++fazla) {
+            const rlimit dar = {rlim_t(boş + fazla), sınır.rlim_max};
+            QCOMPARE(setrlimit(RLIMIT_NOFILE, &dar), 0);
+            QCOMPARE(başlat(klasör), 3048);
+        }
+        setrlimit(RLIMIT_NOFILE, &sınır);
+        QCOMPARE(KlasörOku(klasör), dosyalar_);
     }
 
     // Two processes are tried with the companion tool; SQLite tells its own connections apart as well.
