@@ -13,6 +13,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -137,6 +138,18 @@ void varOlmalı(const QString& yol)
         throw VeritabanıHatası(HataNo::DosyaBoş, yol);
 }
 
+/// SQLite takes an empty file for a new database; one that it makes itself would be readable for all.
+void boşDosyaOluştur(const QString& yol)
+{
+    const int no =
+        open(QFile::encodeName(yol).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (no < 0 && errno == EEXIST)
+        throw VeritabanıHatası(HataNo::DosyaVar, yol);
+    if (no < 0)
+        SistemHatasıVer(errno, Erişim::Yazma, yol);
+    close(no);
+}
+
 } // namespace
 
 QString Utf8Metni(std::string_view utf8)
@@ -162,12 +175,10 @@ Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip
     erişimleriİzle();
     if (kip != AçmaKipi::Oluştur)
         varOlmalı(yol);
-    else if (QFileInfo::exists(yol))
-        throw VeritabanıHatası(HataNo::DosyaVar, yol);
+    else
+        boşDosyaOluştur(yol);
 
-    const int bayraklar = kip == AçmaKipi::Oku       ? SQLITE_OPEN_READONLY
-                          : kip == AçmaKipi::Oluştur ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
-                                                     : SQLITE_OPEN_READWRITE;
+    const int bayraklar = kip == AçmaKipi::Oku ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     sqlite3* db = nullptr;
     const int durum = sqlite3_open_v2(QFile::encodeName(yol).constData(), &db, bayraklar, nullptr);
     db_.reset(db);

@@ -59,12 +59,12 @@ public:
         if (fsync(no_) != 0 && errno != EINVAL && errno != ENOTSUP)
             SistemHatasıVer(errno, Erişim::Yazma, yol_);
     }
-    /// Owner (where this process may give files away) and access rights of another file.
+    /// Owner (where this process may give files away) and the owner's access rights of another file.
     void HaklarıVer(const struct stat& diğer) const
     {
         if (geteuid() == 0 && fchown(no_, diğer.st_uid, diğer.st_gid) != 0)
             SistemHatasıVer(errno, Erişim::Yazma, yol_);
-        if (fchmod(no_, diğer.st_mode & 07777) != 0)
+        if (fchmod(no_, diğer.st_mode & S_IRWXU) != 0)
             SistemHatasıVer(errno, Erişim::Yazma, yol_);
     }
 
@@ -226,6 +226,14 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
         Tanıtıcı(yeni, O_RDONLY).HaklarıVer(eski);
         DosyayıTaşı(yeni, hedef);
     }
+}
+
+void YalnızSahibineAç(const QString& yol)
+{
+    struct stat bilgi = {};
+    const QByteArray ad = QFile::encodeName(yol);
+    if (stat(ad.constData(), &bilgi) == 0 && (bilgi.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        static_cast<void>(chmod(ad.constData(), bilgi.st_mode & S_IRWXU));
 }
 
 void DosyayıTaşı(const QString& yol, const QString& yeniYol)

@@ -52,12 +52,15 @@ qint64 TümSatırlarıOku(Bağlantı& kitaplık);
 
 /// Replaces the library by a copy of the new file, at no moment leaving a half file under its name; where
 /// the disk has no room for a copy, the new file itself becomes the library. Follows a symbolic link and
-/// keeps the old file's owner and access rights. On failure the old file stands. Throws 3024, 3026, 3027
-/// and 3043, as do all that follow.
+/// keeps the old file's owner and the owner's access rights; nobody else gets any. On failure the old file
+/// stands. Throws 3024, 3026, 3027 and 3043, as do all that follow.
 void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir);
 
 /// Writes a file's bytes and its folder's entry to the disk.
 void DiskeYaz(const QString& yol);
+
+/// Takes all access rights but the owner's; a file of somebody else's stays as it is.
+void YalnızSahibineAç(const QString& yol);
 
 /// Gives a file another name in its folder, over a file that has it, and writes the folder to the disk.
 void DosyayıTaşı(const QString& yol, const QString& yeniYol);

@@ -20,6 +20,17 @@ const QString AçmaMetni = QStringLiteral(";PWD=") + KitaplıkParolası;
 const QString KaynakYereli = QStringLiteral(";Pwd=") + KitaplıkParolası;
 const QString HedefYereli = QStringLiteral(";LANGID=0x041F;CP=1254;COUNTRY=0");
 
+// While a library is being made. The library comes into place last: beside a file with this ending, a
+// workgroup file alone is what a killed making left, and belongs to no library.
+const QString YeniEki = QStringLiteral(".yeni");
+const QString GünlükEki = QStringLiteral("-journal");
+
+/// An empty file is half of a library too: it holds nothing that could be lost.
+bool dolu(const QString& yol)
+{
+    return QFileInfo::exists(yol) && QFileInfo(yol).size() > 0;
+}
+
 } // namespace
 
 QString KitaplıkYolu(const QString& klasör, QStringView dosya)
@@ -31,17 +42,25 @@ void KitaplıkKur(const QString& klasör)
 {
     const QString kitaplık = KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı);
     const QString grup = KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu);
-    for (const QString& yol : {kitaplık, grup}) {
-        if (QFileInfo::exists(yol))
-            throw VeritabanıHatası(HataNo::DosyaVar, yol);
-    }
-    GeçiciDosya yarımKitaplık(kitaplık), yarımGrup(grup);
-    KitaplıkOluştur(kitaplık, KitaplıkParolası);
+    const QString yeniKitaplık = kitaplık + YeniEki, yeniGrup = grup + YeniEki;
+    const bool yarımdı = QFileInfo::exists(yeniKitaplık);
+    if (dolu(kitaplık))
+        throw VeritabanıHatası(HataNo::DosyaVar, kitaplık);
+    if (dolu(grup) && !yarımdı)
+        throw VeritabanıHatası(HataNo::DosyaVar, grup);
+    // A journal without its library holds nothing that could be brought back, but would spoil the new one.
+    for (const QString& yol : {yeniKitaplık, yeniGrup, kitaplık + GünlükEki, grup + GünlükEki,
+                               yeniKitaplık + GünlükEki, yeniGrup + GünlükEki})
+        DosyayıSil(yol);
+    GeçiciDosya yarımKitaplık(yeniKitaplık), yarımGrup(yeniGrup);
+    KitaplıkOluştur(yeniKitaplık, KitaplıkParolası);
     User sahip(SahipAdı);
     sahip.Password(SahipParolası);
-    ÇalışmaGrubu::Oluştur(grup, sahip, KitaplıkParolası);
-    yarımKitaplık.Kalsın();
-    yarımGrup.Kalsın();
+    ÇalışmaGrubu::Oluştur(yeniGrup, sahip, KitaplıkParolası);
+    DosyayıTaşı(yeniGrup, grup);
+    GeçiciDosya yalnızGrup(grup);
+    DosyayıTaşı(yeniKitaplık, kitaplık);
+    yalnızGrup.Kalsın();
 }
 
 Workspace SahipÇalışmaAlanı(DBEngine& motor)
@@ -59,6 +78,7 @@ void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const D
     const QString kitaplık = KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı);
     const QString kopya = KitaplıkYolu(klasör, KitaplıkDosyaları::Kopya);
     const QString yeni = kopya + u'~';
+    YalnızSahibineAç(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
     const auto sıkıştır = [&] {
         DosyayıSil(yeni);
         motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);

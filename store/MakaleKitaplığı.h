@@ -21,8 +21,8 @@ struct KitaplıkDosyaları
     static constexpr QStringView Kopya = u"Makale.md_";
 };
 
-/// Creates an empty library and its workgroup file in the folder. Throws 3204 when either exists, and
-/// then creates nothing.
+/// Creates an empty library and its workgroup file in the folder, readable for their owner only. What a
+/// killed creation left is replaced. Throws 3204 when either file exists, and then creates nothing.
 void KitaplıkKur(const QString& klasör);
 
 /// The owner's workspace; the engine's workgroup file must be set.
@@ -30,7 +30,8 @@ Workspace SahipÇalışmaAlanı(DBEngine& motor);
 /// The workspace of the account under which the library stays open.
 Workspace KullanıcıÇalışmaAlanı(DBEngine& motor);
 
-/// Replaces the library by a compacted copy of itself. Whatever fails, the library file stands as it was.
+/// Replaces the library by a compacted copy of itself, and makes its files readable for their owner only.
+/// Whatever fails, the library file stands as it was.
 void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir);
 
 /// Makes sure that the user account exists; it stands already where the last run ended abnormally.

@@ -174,18 +174,50 @@ private slots:
                 QFile::setPermissions(asıl, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
         const uint sahip = geteuid() == 0 ? 65534 : geteuid(); // only root can give a file away
         QCOMPARE(chown(QFile::encodeName(asıl).constData(), sahip, gid_t(-1)), 0);
-        const auto izinler = QFile::permissions(asıl);
+        QVERIFY(QFile::setPermissions(klasör + Tps, QFile::permissions(asıl) | QFile::ReadOther));
         const QList<Makale> beklenen = oku(klasör);
         QCOMPARE(beklenen.size(), 334);
         QVERIFY(beklenen.first() == makaleler_[99] && beklenen.last() == makaleler_[0]); // keys stay
-        QVERIFY(QFileInfo(klasör + Mde).isSymLink() && QFile::permissions(asıl) == izinler &&
-                QFileInfo(asıl).ownerId() == sahip && !QFile::exists(asıl + u'~'));
+        for (const QString& yol : {asıl, klasör + Tps, klasör + MdKopya}) // readable for their owner only
+            QCOMPARE(int(QFile::permissions(yol)) & 0x77, 0);
+        QVERIFY(QFileInfo(klasör + Mde).isSymLink() && QFileInfo(asıl).ownerId() == sahip &&
+                !QFile::exists(asıl + u'~'));
         const Dosyalar sonra = KlasörOku(klasör);
         QCOMPARE(sonra.keys(), (QStringList{MdKopya, Mde, Tps}));
         QVERIFY(sonra[MdKopya] == sonra[Mde] && sonra[Mde].size() < dosyalar_[Mde].size() / 2);
         QCOMPARE(DosyaBağlantısı(klasör)->Metin("PRAGMA integrity_check"), u"ok"_s);
         QVERIFY(QFile::remove(klasör + Mde) && QFile::rename(klasör + MdKopya, klasör + Mde));
         QCOMPARE(oku(klasör), beklenen); // recovery by hand
+    }
+
+    void creation()
+    {
+        const DenemeKitaplığı kitaplık;
+        const QString klasör = kitaplık.Klasör(), yeni = u".yeni"_s;
+        const Dosyalar tam = KlasörOku(klasör);
+        QCOMPARE(tam.keys(), (QStringList{Mde, Tps}));
+        const QByteArray yarım = tam[Mde].left(5000), &mde = tam[Mde], &tps = tam[Tps];
+        using Durum = Dosyalar;
+        for (const Durum& kalan :
+             {Durum{{Mde + yeni, yarım}}, Durum{{Mde + yeni, yarım}, {Mde + yeni + u"-journal"_s, yarım}},
+              Durum{{Mde + yeni, mde}, {Tps + yeni, yarım}}, Durum{{Mde + yeni, mde}, {Tps, tps}},
+              Durum{{Mde, ""}, {Mde + u"-journal"_s, yarım}}, Durum{{Mde, tam[Mde]}}, Durum{{Tps, tps}},
+              tam}) {
+            for (const QString& ad : KlasörOku(klasör).keys())
+                QFile::remove(klasör + ad);
+            for (const auto& [ad, baytlar] : kalan.asKeyValueRange())
+                DosyaYaz(klasör + ad, baytlar);
+            const bool korunur = kalan[Mde].size() > 0 || (kalan.contains(Tps) && kalan.size() == 1);
+            QCOMPARE(HataNumarası([&] { KitaplıkKur(klasör); }), korunur ? 3204 : 0);
+            if (korunur) {
+                QCOMPARE(KlasörOku(klasör), kalan);
+                continue;
+            }
+            QCOMPARE(KlasörOku(klasör).keys(), tam.keys());
+            for (const QString& ad : tam.keys())
+                QCOMPARE(int(QFile::permissions(klasör + ad)) & 0x77, 0);
+            QCOMPARE(oku(klasör).size(), 0);
+        }
     }
 
     void foreignAndTruncated()
@@ -383,8 +415,25 @@ private slots:
             diğer->Çalıştır(sql);
             QCOMPARE(başlat(klasör), 3045);
         }
-        const Açılış açılış(klasör);
-        QCOMPARE(başlat(klasör), 3045);
+        // By whatever way it is reached: through a linked folder, or with one of its files linked.
+        const QTemporaryDir başka;
+        const QString bağ = başka.filePath(u"bağ/"_s);
+        for (const QStringList& bağlılar : {QStringList{}, {Mde, Tps}, {Mde}, {Tps}}) {
+            QFile::remove(bağ.chopped(1));
+            QDir(bağ).removeRecursively();
+            if (bağlılar.isEmpty())
+                QVERIFY(QFile::link(klasör.chopped(1), bağ.chopped(1)));
+            else
+                QVERIFY(QDir().mkpath(bağ));
+            for (const QString& ad : bağlılar.isEmpty() ? QStringList() : QStringList{Mde, Tps}) {
+                const QString yol = klasör + ad;
+                QVERIFY(bağlılar.contains(ad) ? QFile::link(yol, bağ + ad) : QFile::copy(yol, bağ + ad));
+            }
+            const Açılış açılış(klasör);
+            QCOMPARE(başlat(bağ), 3045);
+            QCOMPARE(başlat(klasör), 3045);
+        }
+        QCOMPARE(başlat(klasör), 0);
     }
 
     void nothingInTheClearOrHalf()
