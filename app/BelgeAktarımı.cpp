@@ -209,6 +209,12 @@ Aktarımlar& aktarımlar()
 
 } // namespace
 
+void EskiBelgeleriSil()
+{
+    aktarımlar().EskileriSil();
+    QTimer::singleShot(OkunmamışBekleme, qApp, [] { aktarımlar().EskileriSil(); });
+}
+
 void BelgeAktar(const QString& program, const QByteArray& belge)
 {
     aktarımlar().EskileriSil();

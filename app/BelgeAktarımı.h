@@ -13,3 +13,7 @@
 /// @throw ÇalışmaHatası 75 the file can't be written, 429 the program can't be started, 440 it ended with
 /// an error
 void BelgeAktar(const QString& program, const QByteArray& belge);
+
+/// Removes the documents that runs which were killed have left: at once, but for those a word processor may
+/// still be about to read; these go two minutes later. To be called once at the start.
+void EskiBelgeleriSil();

@@ -1,5 +1,6 @@
 #include "program/GirişModülü.h"
 
+#include "app/BelgeAktarımı.h"
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/KapatmaSinyalleri.h"
@@ -12,6 +13,7 @@
 #include "forms/AnaForm.h"
 #include "forms/KarşılamaFormu.h"
 #include "store/MakaleKitaplığı.h"
+#include "store/VeritabanıHatası.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -20,7 +22,9 @@
 #include <QSessionManager>
 #include <QTranslator>
 
+#include <filesystem>
 #include <optional>
+#include <string>
 
 namespace {
 
@@ -51,8 +55,17 @@ void sürümüDenetle()
         reddet(30);
 }
 
+/// The toolkit can't name a folder whose bytes are no UTF-8: without this the library would seem missing.
+void yolGeçerliOlmalı()
+{
+    const std::string yol = std::filesystem::read_symlink("/proc/self/exe").string();
+    if (!QUtf8StringView(yol.data(), qsizetype(yol.size())).isValidUtf8())
+        throw VeritabanıHatası(HataNo::YolGeçersiz, QString::fromUtf8(yol.data(), qsizetype(yol.size())));
+}
+
 void dosyalarıDenetle()
 {
+    yolGeçerliOlmalı();
     if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::Veritabanı)))
         reddet(40);
     if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu)))
@@ -103,6 +116,7 @@ int SubMain(QApplication& uygulama)
         sürümüDenetle();
         dosyalarıDenetle();
         KitaplığıAç(&PencereleriBoya);
+        EskiBelgeleriSil();
 
         AnaForm form;
         tekÖrnek->ÖneÇağrıldı = [&form] { form.ÖneGetir(); };

@@ -1,4 +1,5 @@
 #include "program/GirişModülü.h"
+#include "store/ÇekirdekDökümü.h"
 
 #include <QApplication>
 
@@ -6,6 +7,7 @@
 
 int main(int argc, char** argv)
 {
+    ÇekirdekDökümünüKapat();
     std::signal(SIGPIPE, SIG_IGN); // the log's reader may go away
 
     QApplication uygulama(argc, argv);

@@ -2,6 +2,7 @@
 
 #include "store/KitaplıkDenetimi.h"
 #include "store/MakaleKitaplığı.h"
+#include "store/SistemHatası.h"
 #include "tools/AraçHatası.h"
 #include "tools/JsonSatırları.h"
 #include "tools/Uçbirim.h"
@@ -83,6 +84,7 @@ private:
 
 QString klasörYolu(const QString& klasör)
 {
+    YolGeçerliOlmalı(klasör);
     const QString yol = QDir(klasör).absolutePath();
     return yol.endsWith(u'/') ? yol : yol + u'/';
 }

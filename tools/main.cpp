@@ -1,5 +1,6 @@
 // The command-line companion. There is no application object: none of the work needs one, and it would
 // complain about a locale that isn't UTF-8. The arguments are taken as UTF-8 whatever the locale.
+#include "store/ÇekirdekDökümü.h"
 #include "tools/Komutlar.h"
 
 #include <fcntl.h>
@@ -21,6 +22,7 @@ void standartAkışlarıDoldur()
 
 int main(int sayı, char** değişkenler)
 {
+    ÇekirdekDökümünüKapat();
     standartAkışlarıDoldur();
     QStringList metinler;
     for (int i = 1; i < sayı; ++i)
