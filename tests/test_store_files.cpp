@@ -373,6 +373,10 @@ private slots:
         const QString yol = hazırla();
         QTEST(bozukken([&] { Açılış{yol}; }), "başlatma");
         QCOMPARE(oku(yol), makaleler_);
+        {
+            const Database dar(DosyaBağlantısı(yol, 1)); // each page is read anew
+            QCOMPARE(bozukken([&] { Makaleler(dar); }), okuma ? 3043 : 0);
+        }
         const Açılış açılış(yol);
         Recordset r = açılış.Veritabanı->OpenRecordset(Tümü + u" WHERE 1=0"_s);
         r.AddNew();
