@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QScopeGuard>
+#include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -98,8 +99,20 @@ void TestControlsRtf::texts_data()
     plain("empty", "", u""_s);
     plain("UTF-8", "ığ€😀", u"ığ€😀"_s);
     plain("UTF-8 with mark and a wrong byte", "\xef\xbb\xbfığ\xff", u"ığ\uFFFD"_s);
+    plain("UTF-8, wrong bytes",
+          "\x80\xc4\xb1\xe2\x82.\xf0\x9f\x98\xed\xa0\xc5\x9f\xc3\xb6\xc3\xbc\xc3\xa7\xc3\xa7\xff",
+          u"\uFFFDı\uFFFD.\uFFFD\uFFFD\uFFFDşöüçç\uFFFD"_s);
+    plain("UTF-8 cut short", "\xc4\xb1\xc4", u"ı\uFFFD"_s);
+    plain("UTF-8 that could be Turkish with marks", "\xce\x91\xce\x92 c\xc2\xb4", u"ΑΒ c´"_s);
     plain("Windows-1254", "\xdd\xfe\x85", u"İş…"_s);
-    plain("UTF-8 cut short is none", "\xc4\xb1\xc4", u"Ä±Ä"_s);
+    plain("Windows-1254, one letter", "abc\xfd", u"abcı"_s);
+    plain("Windows-1254, letters with marks", "AL\xdd\x92N\xddN, K\xd6Y\x85, AL\xdd\xb4N\xddN,i\xe7\x92\x94",
+          u"ALİ’NİN, KÖY…, ALİ´NİN,iç’”"_s);
+    plain("Windows-1254, nothing but such", "AL\xdd\x92", u"ALİ’"_s);
+    for (const QString& text : {u"a"_s, u"ışığı"_s, u"Ali’nin 5 € — ₺’si\n"_s, u"Жуков γ 中"_s}) {
+        plain(qUtf8Printable(text + u" LE"_s), QStringEncoder(QStringEncoder::Utf16LE)(text), text);
+        plain(qUtf8Printable(text + u" BE"_s), QStringEncoder(QStringEncoder::Utf16BE)(text), text);
+    }
     plain("UTF-16, low byte first", QByteArray("\xff\xfe\x31\x01\r\0\n\0\x3d\xd8", 10), u"ı\n\uFFFD"_s);
     plain("UTF-16, high byte first", QByteArray("\xfe\xff\x01\x31\x20\x28\xdc\0", 8), u"ı\n\uFFFD"_s);
     plain("line ends", "a\rb\nc\r\nd\n\re\ff\u2028g\u2029h", u"a\nb\nc\nd\n\ne\nf\ng\nh"_s);
@@ -139,6 +152,8 @@ void TestControlsRtf::fileErrors_data()
     row("2 GB", {}, u"çok büyük"_s);
     row("no permission", {}, u"izniniz yok"_s);
     row("NUL", QByteArray("abc\0d", 5), u"metin dosyası değil"_s);
+    row("even NUL", QByteArray("ab\0c", 4), u"metin dosyası değil"_s);
+    row("numbers of 16 bits", QByteArray("a\0b\0\0\0c\0d\0", 10), u"metin dosyası değil"_s);
     row("control characters", "a\x01\x02", u"metin dosyası değil"_s);
     row("too deep", "{\\rtf1 a" + QByteArray(1000, '{') + QByteArray(1001, '}'), u"bozuk"_s);
     row("cut in a table", "\xef\xbb\xbf \r\n{\\rtf1{\\fonttbl{\\f0 Ari", u"bozuk"_s);
