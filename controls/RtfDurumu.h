@@ -10,6 +10,7 @@ enum class RtfHedefi : quint8
 {
     Metin,
     Atlanan,
+    AtlananMetin, ///< may have paragraphs
     İskelet,
     YazıTipleri,
     Renkler
@@ -43,6 +44,8 @@ struct RtfDurumu
     {
         return Hedef == RtfHedefi::Metin && (Bayraklar & (RtfBayrağı::Gizli | RtfBayrağı::Silinmiş)) == 0;
     }
+    /// Whether all within is dropped.
+    bool Atlanıyor() const { return Hedef == RtfHedefi::Atlanan || Hedef == RtfHedefi::AtlananMetin; }
     /// State at the beginning of a group within.
     RtfDurumu İçGrup() const;
     /// Applies a word for a format.

@@ -5,6 +5,7 @@
 #include "controls/RtfSözcükleri.h"
 #include "controls/RtfTabloları.h"
 #include "controls/RtfÇıktısı.h"
+#include "controls/RtfÖnBakış.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +14,7 @@
 
 namespace {
 
-constexpr int EnDerinGrup = 1000; // word processors stay below a hundred
+constexpr int EnDerinGrup = 10'000; // word processors stay below a hundred
 constexpr int EnUzunYedek = 255;
 constexpr qsizetype EnBüyükBelge = qsizetype(1) << 30; // the text's positions are ints
 constexpr QByteArrayView İmza("{\\rtf");
@@ -43,11 +44,13 @@ private:
     bool işle(const RtfSözcüğü& söz); // false at the document's end
     void grupAç();
     void grupKapat();
+    bool sürüyor();
+    bool kapanmamışHedef() const;
     void sözcük(const RtfSözcüğü& söz);
     void yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz);
     void biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz);
     void başlık(const RtfTanımı& tanım, int değer);
-    void hedef(RtfEylemi eylem);
+    void hedef(const RtfTanımı& tanım);
     void simge(int işaret);
     void unicode(int değer);
     void düz(std::string_view baytlar);
@@ -68,6 +71,8 @@ private:
     RtfÇıktısı çıktı_;
     RtfDurumu durum_;
     std::vector<RtfDurumu> dıştakiler_; // states of the groups around
+    int fazlaGrup_ = 0;                 // groups that are too deep to have a state
+    bool devamında_ = false;            // behind a brace that seemed to end the document
     bool biçimEski_ = false;
     int atlanacak_ = 0; // characters that only stand in for a Unicode one
 
@@ -93,6 +98,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
     case RtfTürü::Son:
         if (çıktı_.Boş() && durum_.Hedef != RtfHedefi::Metin)
             bozuk();
+        fazlaGrup_ = 0;
         while (!dıştakiler_.empty())
             grupKapat();
         return false;
@@ -101,7 +107,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
         return true;
     case RtfTürü::GrupSonu:
         grupKapat();
-        return !dıştakiler_.empty();
+        return !dıştakiler_.empty() || sürüyor();
     case RtfTürü::Sözcük:
         sözcük(söz);
         return true;
@@ -113,7 +119,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
         break;
     }
     durum_.Yeni = false;
-    if (durum_.Hedef == RtfHedefi::Atlanan)
+    if (durum_.Atlanıyor())
         return true;
     if (söz.Tür == RtfTürü::Düz)
         düz(söz.Ad);
@@ -126,9 +132,11 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
 
 void Okuyucu::grupAç()
 {
-    if (dıştakiler_.size() >= EnDerinGrup)
-        bozuk();
     durum_.Yeni = false;
+    if (dıştakiler_.size() >= EnDerinGrup) {
+        ++fazlaGrup_;
+        return;
+    }
     dıştakiler_.push_back(durum_);
     durum_ = durum_.İçGrup();
     atlanacak_ = 0;
@@ -136,6 +144,12 @@ void Okuyucu::grupAç()
 
 void Okuyucu::grupKapat()
 {
+    if (dıştakiler_.empty())
+        return;
+    if (fazlaGrup_ > 0) {
+        --fazlaGrup_;
+        return;
+    }
     if (durum_.Kapanış == RtfKapanışı::Dipnot)
         çıktı_.DipnotSonu();
     else if (durum_.Kapanış == RtfKapanışı::Kutu)
@@ -147,28 +161,53 @@ void Okuyucu::grupKapat()
     kodSayfası_ = nullptr;
 }
 
+// Whether the document goes on behind the brace of its first group.
+bool Okuyucu::sürüyor()
+{
+    if (devamında_)
+        return true;
+    const QByteArrayView devam = RtfDevamı(sözcükler_.Kalan());
+    sözcükler_ = RtfSözcükleri(devam);
+    devamında_ = !devam.isEmpty();
+    return devamında_;
+}
+
+// Whether this is a destination's own group, and one that can't hold paragraphs.
+bool Okuyucu::kapanmamışHedef() const
+{
+    return (durum_.Hedef == RtfHedefi::Atlanan || durum_.Hedef == RtfHedefi::YazıTipleri ||
+            durum_.Hedef == RtfHedefi::Renkler) &&
+           !dıştakiler_.empty() && dıştakiler_.back().Hedef == RtfHedefi::Metin;
+}
+
 void Okuyucu::sözcük(const RtfSözcüğü& söz)
 {
-    if (durum_.Hedef == RtfHedefi::Atlanan) { // only raw bytes could be taken for something else
-        if (söz.Ad == "bin" && !sözcükler_.Atla(std::max(söz.Değer, 0)))
-            bozuk();
+    if (söz.Ad == "pard" && kapanmamışHedef()) // its brace is missing; the text would be lost
+        durum_.Hedef = RtfHedefi::Metin;
+    if (durum_.Atlanıyor()) { // only raw bytes could be taken for something else
+        if (söz.Ad == "bin")
+            sözcükler_.İkiliAtla(söz.Değer);
         return;
     }
     const RtfTanımı* tanım = RtfTanımıBul(söz.Ad);
     const bool yıldızlı = std::exchange(durum_.Yıldızlı, false);
     const bool başta = std::exchange(durum_.Yeni, false);
-    if (tanım && tanım->Eylem == RtfEylemi::İkili && !sözcükler_.Atla(std::max(söz.Değer, 0)))
-        bozuk();
+    const bool ikili = tanım && tanım->Eylem == RtfEylemi::İkili;
+    if (ikili)
+        sözcükler_.İkiliAtla(söz.Değer);
     if (atlanacak_ > 0) {
-        --atlanacak_;
-        return;
+        if (ikili || (tanım && tanım->Eylem == RtfEylemi::Harf)) {
+            --atlanacak_;
+            return;
+        }
+        atlanacak_ = 0; // no word processor lets other words stand in; some forget the character
     }
     if (tanım && HedefMi(tanım->Eylem)) {
         // Amid the document's own group a destination would swallow the rest.
         if (başta || dıştakiler_.size() > 1)
-            hedef(tanım->Eylem);
+            hedef(*tanım);
     } else if (yıldızlı) {
-        durum_.Hedef = RtfHedefi::Atlanan;
+        durum_.Hedef = RtfHedefi::AtlananMetin;
     } else if (tanım && tanım->Eylem <= RtfEylemi::Unicode) {
         yapı(*tanım, söz);
     } else if (tanım && tanım->Eylem <= RtfEylemi::TabloDerinliği) {
@@ -229,12 +268,13 @@ void Okuyucu::başlık(const RtfTanımı& tanım, int değer)
         başlık_.Sözcük(tanım, değer, durum_.Hedef == RtfHedefi::YazıTipleri);
 }
 
-void Okuyucu::hedef(RtfEylemi eylem)
+void Okuyucu::hedef(const RtfTanımı& tanım)
 {
+    const RtfEylemi eylem = tanım.Eylem;
     const bool iskelette = durum_.Hedef == RtfHedefi::İskelet;
     switch (eylem) {
     case RtfEylemi::Atlanan:
-        durum_.Hedef = RtfHedefi::Atlanan;
+        durum_.Hedef = tanım.Değer == RtfAtlanan::Paragraflı ? RtfHedefi::AtlananMetin : RtfHedefi::Atlanan;
         break;
     case RtfEylemi::İskelet:
         if (!iskelette)
@@ -385,6 +425,7 @@ void Okuyucu::harf(char16_t harf)
             başlık_.RenkSonu();
         break;
     case RtfHedefi::Atlanan:
+    case RtfHedefi::AtlananMetin:
     case RtfHedefi::İskelet:
         break;
     }

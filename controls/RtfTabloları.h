@@ -36,7 +36,7 @@ enum class RtfEylemi : quint8
     YedekBoyu,    ///< how many characters stand in for a Unicode one
     İkili,
     // Destinations, from here on.
-    Atlanan,
+    Atlanan,      ///< the value is of RtfAtlanan
     MetinHedefi,  ///< as if it were no destination
     İskelet,      ///< holds text only deeper inside
     İskeletMetni, ///< the text in one
@@ -62,6 +62,16 @@ struct RtfBayrağı
         ÜstüÇizili = 8,
         Gizli = 16,
         Silinmiş = 32
+    };
+};
+
+/// What a dropped destination may hold.
+struct RtfAtlanan
+{
+    enum : int
+    {
+        Paragrafsız,
+        Paragraflı
     };
 };
 
