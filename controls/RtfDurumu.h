@@ -13,7 +13,8 @@ enum class RtfHedefi : quint8
     AtlananMetin, ///< may have paragraphs
     İskelet,
     YazıTipleri,
-    Renkler
+    Renkler,
+    AlanKomutu
 };
 
 /// What a group does when it ends.
@@ -21,7 +22,9 @@ enum class RtfKapanışı : quint8
 {
     Yok,
     Dipnot,
-    Kutu
+    Kutu,
+    Alan,
+    AlanKomutu
 };
 
 /// A group begins with its surrounding group's state, and its end restores that.
@@ -30,8 +33,10 @@ struct RtfDurumu
     int YazıTipi = -1; ///< place in the font table; -1 for the default font
     int YarımNokta = 0;
     quint32 Renk = KarakterBiçimi::Renksiz;
-    quint8 Bayraklar = 0; ///< of RtfBayrağı
-    quint8 YedekBoyu = 1; ///< how many characters stand in for a Unicode one
+    int AlanBaşı = 0;         ///< place in the text where the field begins
+    char16_t AlanSimgesi = 0; ///< what the field stands for where its result is empty
+    quint8 Bayraklar = 0;     ///< of RtfBayrağı
+    quint8 YedekBoyu = 1;     ///< how many characters stand in for a Unicode one
     RtfHedefi Hedef = RtfHedefi::Metin;
     RtfHedefi İskelettekiHedef = RtfHedefi::Atlanan; ///< of the text deep in a frame
     RtfKapanışı Kapanış = RtfKapanışı::Yok;

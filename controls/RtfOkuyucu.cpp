@@ -1,14 +1,17 @@
 #include "controls/RtfOkuyucu.h"
 
+#include "controls/RtfAlanı.h"
 #include "controls/RtfBaşlığı.h"
 #include "controls/RtfDurumu.h"
 #include "controls/RtfSözcükleri.h"
 #include "controls/RtfTabloları.h"
 #include "controls/RtfÇıktısı.h"
 #include "controls/RtfÖnBakış.h"
+#include "controls/Utf8.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -16,6 +19,7 @@ namespace {
 
 constexpr int EnDerinGrup = 10'000; // word processors stay below a hundred
 constexpr int EnUzunYedek = 255;
+constexpr int EnUzunKomut = 128;                       // the one for a sign is shorter
 constexpr qsizetype EnBüyükBelge = qsizetype(1) << 30; // the text's positions are ints
 constexpr QByteArrayView İmza("{\\rtf");
 
@@ -36,11 +40,24 @@ qsizetype imzaYeri(QByteArrayView baytlar)
 class Okuyucu
 {
 public:
-    explicit Okuyucu(QByteArrayView belge) : sözcükler_(belge) {}
+    explicit Okuyucu(QByteArrayView belge) : sözcükler_(belge)
+    {
+        const RtfKodlaması kodlama = RtfKodlamasıBul(belge);
+        if (kodlama.KaçışlıUtf8)
+            başlık_.Utf8Varsay();
+        if (kodlama.HamUtf8)
+            hamUtf8_.emplace(KodSayfası::Utf8);
+    }
 
     BiçimliMetin oku();
 
 private:
+    enum class Yazılış // of a byte
+    {
+        Ham,
+        Kaçışlı
+    };
+
     bool işle(const RtfSözcüğü& söz); // false at the document's end
     void grupAç();
     void grupKapat();
@@ -54,8 +71,9 @@ private:
     void simge(int işaret);
     void unicode(int değer);
     void düz(std::string_view baytlar);
-    void bayt(unsigned char bayt);
-    void çokBaytlı(unsigned char bayt);
+    void yedeğiAtla(std::string_view& baytlar);
+    void bayt(unsigned char bayt, Yazılış yazılış);
+    void çokBaytlı(unsigned char bayt, Yazılış yazılış);
     void yarımHarf();
     void harf(char16_t harf);
     void biçimiBildir();
@@ -65,7 +83,7 @@ private:
     {
         return durum_.Hedef == RtfHedefi::YazıTipleri ? başlık_.YazılanYazıTipi() : durum_.YazıTipi;
     }
-    const KodSayfası& kodSayfası();
+    const KodSayfası& kodSayfası(Yazılış yazılış);
 
     RtfSözcükleri sözcükler_;
     RtfÇıktısı çıktı_;
@@ -77,9 +95,12 @@ private:
     int atlanacak_ = 0; // characters that only stand in for a Unicode one
 
     RtfBaşlığı başlık_;
+    QString alanKomutu_;
+    std::optional<KodSayfası> hamUtf8_;      // of bytes that stand for themselves, where that is UTF-8
     const KodSayfası* kodSayfası_ = nullptr; // of the present font; unknown until asked for
-    std::array<char, 4> yarım_{};            // a letter's first bytes
+    std::array<char, 4> yarım_{};            // a letter's first bytes; formats may change before the next
     std::size_t yarımBoyu_ = 0;
+    const KodSayfası* yarımSayfası_ = nullptr;
 };
 
 BiçimliMetin Okuyucu::oku()
@@ -91,11 +112,9 @@ BiçimliMetin Okuyucu::oku()
 
 bool Okuyucu::işle(const RtfSözcüğü& söz)
 {
-    const bool yazı = söz.Tür == RtfTürü::Düz || söz.Tür == RtfTürü::Bayt;
-    if (yarımBoyu_ > 0 && !yazı)
-        yarımHarf();
     switch (söz.Tür) {
     case RtfTürü::Son:
+        yarımHarf();
         if (çıktı_.Boş() && durum_.Hedef != RtfHedefi::Metin)
             bozuk();
         fazlaGrup_ = 0;
@@ -126,7 +145,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
     else if (atlanacak_ > 0)
         --atlanacak_;
     else
-        bayt(static_cast<unsigned char>(söz.Değer));
+        bayt(static_cast<unsigned char>(söz.Değer), Yazılış::Kaçışlı);
     return true;
 }
 
@@ -150,12 +169,19 @@ void Okuyucu::grupKapat()
         --fazlaGrup_;
         return;
     }
-    if (durum_.Kapanış == RtfKapanışı::Dipnot)
+    const RtfKapanışı kapanış = durum_.Kapanış;
+    if (kapanış != RtfKapanışı::Yok)
+        yarımHarf();
+    if (kapanış == RtfKapanışı::Dipnot)
         çıktı_.DipnotSonu();
-    else if (durum_.Kapanış == RtfKapanışı::Kutu)
+    else if (kapanış == RtfKapanışı::Kutu)
         çıktı_.SatırBaşı();
+    else if (kapanış == RtfKapanışı::Alan && çıktı_.Boy() == durum_.AlanBaşı)
+        harf(durum_.AlanSimgesi);
     durum_ = dıştakiler_.back();
     dıştakiler_.pop_back();
+    if (kapanış == RtfKapanışı::AlanKomutu)
+        durum_.AlanSimgesi = RtfAlanSimgesi(alanKomutu_);
     atlanacak_ = 0;
     biçimEski_ = true;
     kodSayfası_ = nullptr;
@@ -230,6 +256,7 @@ void Okuyucu::yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz)
     }
     if (durum_.Hedef != RtfHedefi::Metin)
         return;
+    yarımHarf();
     switch (tanım.Eylem) {
     case RtfEylemi::Hücre:
         biçimiBildir();
@@ -299,6 +326,20 @@ void Okuyucu::hedef(const RtfTanımı& tanım)
         if (durum_.Hedef == RtfHedefi::Metin && !çıktı_.ListeMetniGerek())
             durum_.Hedef = RtfHedefi::Atlanan;
         break;
+    case RtfEylemi::Alan:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            durum_.Kapanış = RtfKapanışı::Alan;
+            durum_.AlanBaşı = çıktı_.Boy();
+            durum_.AlanSimgesi = 0;
+        }
+        break;
+    case RtfEylemi::AlanKomutu:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            durum_.Kapanış = RtfKapanışı::AlanKomutu;
+            alanKomutu_.clear();
+        }
+        durum_.Hedef = RtfHedefi::AlanKomutu;
+        break;
     case RtfEylemi::YazıTipleri:
     case RtfEylemi::Renkler:
         durum_.Hedef = eylem == RtfEylemi::Renkler ? RtfHedefi::Renkler : RtfHedefi::YazıTipleri;
@@ -334,22 +375,30 @@ void Okuyucu::unicode(int değer)
         harf(QChar::lowSurrogate(static_cast<char32_t>(kod)));
     } else if ((kod & 0xFF00) == 0xF000 && başlık_.Simgesel(yazıTipi())) {
         // So symbol fonts have their bytes in Unicode.
-        bayt(static_cast<unsigned char>(kod & 0xFF));
+        bayt(static_cast<unsigned char>(kod & 0xFF), Yazılış::Kaçışlı);
     } else {
         harf(static_cast<char16_t>(kod));
     }
     atlanacak_ = durum_.YedekBoyu;
 }
 
+// Passes over characters that stand in for one of Unicode.
+void Okuyucu::yedeğiAtla(std::string_view& baytlar)
+{
+    for (; atlanacak_ > 0 && !baytlar.empty(); --atlanacak_) {
+        const QByteArrayView kalan(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+        baytlar.remove_prefix(hamUtf8_ ? static_cast<std::size_t>(Utf8İlk(kalan).Boy) : 1);
+    }
+}
+
 void Okuyucu::düz(std::string_view baytlar)
 {
-    const std::size_t atlanan = std::min(static_cast<std::size_t>(atlanacak_), baytlar.size());
-    atlanacak_ -= static_cast<int>(atlanan);
-    baytlar.remove_prefix(atlanan);
+    yedeğiAtla(baytlar);
     const auto ascii = [](char bayt) { return static_cast<unsigned char>(bayt) < 0x80; };
+    const bool harfli = durum_.Yazılıyor() && !başlık_.Simgeler(yazıTipi());
     while (!baytlar.empty()) {
-        if (yarımBoyu_ > 0 || !durum_.Yazılıyor() || !ascii(baytlar.front())) {
-            bayt(static_cast<unsigned char>(baytlar.front()));
+        if (yarımBoyu_ > 0 || !harfli || !ascii(baytlar.front())) {
+            bayt(static_cast<unsigned char>(baytlar.front()), Yazılış::Ham);
             baytlar.remove_prefix(1);
             continue;
         }
@@ -361,10 +410,17 @@ void Okuyucu::düz(std::string_view baytlar)
     }
 }
 
-void Okuyucu::bayt(unsigned char bayt)
+void Okuyucu::bayt(unsigned char bayt, Yazılış yazılış)
 {
-    if (yarımBoyu_ > 0) {
-        çokBaytlı(bayt);
+    if (yarımBoyu_ > 0 && yarımSayfası_ == &kodSayfası(yazılış)) {
+        çokBaytlı(bayt, yazılış);
+        return;
+    }
+    yarımHarf();
+    const bool utf8 = bayt >= 0x80 && yazılış == Yazılış::Ham && hamUtf8_;
+    const SimgeTablosu* simgeler = utf8 ? nullptr : başlık_.Simgeler(yazıTipi());
+    if (simgeler && (*simgeler)[bayt] != 0) {
+        harf((*simgeler)[bayt]);
         return;
     }
     if (bayt < 0x80) {
@@ -372,44 +428,48 @@ void Okuyucu::bayt(unsigned char bayt)
         return;
     }
     // The bullets of the usual symbol fonts.
-    if ((bayt == 0xB7 || bayt == 0xA7) && başlık_.Simgesel(yazıTipi())) {
+    if ((bayt == 0xB7 || bayt == 0xA7) && !utf8 && başlık_.Simgesel(yazıTipi())) {
         harf(bayt == 0xB7 ? 0x2022 : 0x25AA);
         return;
     }
-    const KodSayfası& sayfa = kodSayfası();
-    if (sayfa.Boy(bayt) == 1)
+    const KodSayfası& sayfa = kodSayfası(yazılış);
+    if (sayfa.Boy(bayt) == 1) {
         harf(sayfa.Harf(bayt));
-    else
+    } else {
+        yarımSayfası_ = &sayfa;
         yarım_[yarımBoyu_++] = static_cast<char>(bayt);
+    }
 }
 
-void Okuyucu::çokBaytlı(unsigned char bayt)
+void Okuyucu::çokBaytlı(unsigned char bayt, Yazılış yazılış)
 {
-    const KodSayfası& sayfa = kodSayfası();
+    const KodSayfası& sayfa = *yarımSayfası_;
     yarım_[yarımBoyu_++] = static_cast<char>(bayt);
     if (yarımBoyu_ < static_cast<std::size_t>(sayfa.Boy(static_cast<unsigned char>(yarım_[0]))))
         return;
     const QString harfler = sayfa.Harf({yarım_.data(), yarımBoyu_});
     const auto baytlar = yarım_;
-    const std::size_t boy = std::exchange(yarımBoyu_, 0);
+    const std::size_t boy = yarımBoyu_;
     if (harfler.isEmpty()) { // those behind the first may be letters of their own
         yarımHarf();
         for (std::size_t i = 1; i < boy; ++i)
-            this->bayt(static_cast<unsigned char>(baytlar[i]));
+            this->bayt(static_cast<unsigned char>(baytlar[i]), yazılış);
     }
+    yarımBoyu_ = 0;
     for (const QChar h : harfler)
         harf(h.unicode());
 }
 
-// A letter of several bytes breaks off.
+// A letter of several bytes breaks off, if there is one.
 void Okuyucu::yarımHarf()
 {
-    yarımBoyu_ = 0;
-    harf(QChar::ReplacementCharacter);
+    if (std::exchange(yarımBoyu_, 0) > 0)
+        harf(QChar::ReplacementCharacter);
 }
 
 void Okuyucu::harf(char16_t harf)
 {
+    yarımHarf();
     switch (durum_.Hedef) {
     case RtfHedefi::Metin:
         if (durum_.Yazılıyor() && harf != 0) {
@@ -424,6 +484,10 @@ void Okuyucu::harf(char16_t harf)
         if (harf == u';')
             başlık_.RenkSonu();
         break;
+    case RtfHedefi::AlanKomutu:
+        if (alanKomutu_.size() < EnUzunKomut)
+            alanKomutu_ += QChar(harf);
+        break;
     case RtfHedefi::Atlanan:
     case RtfHedefi::AtlananMetin:
     case RtfHedefi::İskelet:
@@ -437,8 +501,10 @@ void Okuyucu::biçimiBildir()
         çıktı_.Biçimle(durum_.Biçim(başlık_));
 }
 
-const KodSayfası& Okuyucu::kodSayfası()
+const KodSayfası& Okuyucu::kodSayfası(Yazılış yazılış)
 {
+    if (yazılış == Yazılış::Ham && hamUtf8_)
+        return *hamUtf8_;
     if (!kodSayfası_)
         kodSayfası_ = &başlık_.KodSayfasıBul(yazıTipi());
     return *kodSayfası_;

@@ -43,6 +43,8 @@ enum class RtfEylemi : quint8
     MetinKutusu,  ///< the same, on lines of its own
     Dipnot,
     ListeMetni,
+    Alan,
+    AlanKomutu,
     YazıTipleri,
     Renkler,
 };

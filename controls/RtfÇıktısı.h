@@ -11,6 +11,8 @@ class RtfÇıktısı
 {
 public:
     bool Boş() const { return sonuç_.Metin.isEmpty(); }
+    /// Length so far in UTF-16 units.
+    int Boy() const { return static_cast<int>(sonuç_.Metin.size()); }
 
     /// Format of all that follows.
     void Biçimle(const KarakterBiçimi& biçim);

@@ -57,6 +57,14 @@ void TestControlsRtf::texts_data()
         u"你你|0+1 A,1+1 B"_s);
     row("Korean", R"({\fonttbl{\f1\fcharset129 A;}{\f2\fcharset130 B;}}\f1\'b0\'a1\f2\'88\'61)",
         u"가가|0+1 A,1+1 B"_s);
+    row("letter over runs",
+        R"({\fonttbl{\f1\fcharset134 A;}}{\f1\'c4}{\f1\'e3\'ba\f1\'c3\'ba}{\f1\'c3\'ba\par}\'fe{\f1\'ba}\'fe)",
+        u"你好好\uFFFD\nþ\uFFFDþ|0+5 A"_s);
+    row("UTF-8 unsaid", R"({\fonttbl{\f0\fcharset134 A;}}\f0 日 “\u351ş”\b0 ğ\'c4\'e3)",
+        u"日 “ş”ğ你|0+7 A"_s);
+    row("UTF-8 unsaid, escaped", R"({\fonttbl{\f0\fcharset162 A;}}\f0\'c5\'9f\'e2\'82\'ac.)", u"ş€.|0+3 A"_s);
+    row("looks like UTF-8", "\\ansicpg936 \xc4\xa3\\'c4\\'a3", u"模模"_s);
+    row("looks like UTF-8, Turkish", R"(\ansicpg1254 \'c4\'b1\'fd)", u"Ä±ı"_s);
     row("UTF-8", "\\ansicpg65001 \xe2\x82\xac\xe2(\xe2\x82", u"€\uFFFD(\uFFFD"_s);
     row("Unicode", R"(\u351?\u-3937\'3f\u128512?\u-10179?\u-8704?)", u"ş\xF09F😀😀"_s);
     row("lone surrogates", R"(\u-10179?a\u-8704?\u0?)", u"\uFFFDa\uFFFD"_s);
@@ -69,13 +77,21 @@ void TestControlsRtf::texts_data()
     row("breaks", "a\\par b\\line\\page\\sect\\column c\\\r\nd\r\ne\nf", u"a\nb\n\n\n\nc\ndef"_s);
     row("dropped", R"({\info{\title t}}{\header h}{\*\ne x}{\pict 00}{\v v}{\deleted d}{\revised r}{\xe x})",
         u"r"_s);
-    row("field", R"(a{\field{\*\fldinst{PAGE}}{\fldrslt b}}c)", u"abc"_s);
+    row("fields",
+        R"(a{\field{\*\fldinst{HYPERLINK "x" \\* MERGEFORMAT \* x}}{\b\fldrslt {\b b{\field{\fldinst PAGE}{\*\fldrslt{c}}}}}}d)",
+        u"abcd|1+2 b"_s);
     row("object",
         R"(a{\object{\*\objdata 0102}{\result b}}{\shp{\*\shpinst{\sp{\sn n}}{\shptxt c}}{\shprslt c}}d)",
         u"ab\nc\nd"_s);
     row("list", R"({\listtext\u8226?\tab}{\pntext 1}a\par{\pntext 2.\tab}b)", u"•\ta\n2.\tb"_s);
     row("list in a cell", R"(\intbl{\listtext 1.}a\par{\listtext 2.}b\cell\row)", u"1.a 2.b\n"_s);
-    row("symbol font", R"({\fonttbl{\f3\fcharset2 Symbol;}}\f3\'b7\u-3913?)", u"••|0+2 Symbol"_s);
+    row("symbol fonts",
+        R"({\fonttbl{\f1\fcharset2 Symbol;}{\f2 Zapf Dingbats;}{\f3\fcharset2 WINGDINGS;}}{\f1 ab\'a5\u-3999?}{\f2 4\'f1}{\f3\'fc\'02})",
+        u"αβ∞α✔➱✓|0+4 Symbol,4+2 Zapf Dingbats,6+1 WINGDINGS"_s);
+    row("unknown symbol font", R"({\fonttbl{\f3\fcharset2 X;}}\f3\'b7\u-3929?a\'fd)", u"•▪aý|0+4 X"_s);
+    row("symbol fields",
+        R"({\field{\*\fldinst SYMBOL 97 \\f "Symbol" \\s 10}{\fldrslt}}{\field{\fldinst{\b SYMBOL 0xF061 \\f Symbol}}}{\field{\*\fldinst SYMBOL 8364 \\u}{\fldrslt{}}}{\field{\*\fldinst SYMBOL 65}{\fldrslt B}}{\field{\*\fldinst PAGE 65}})",
+        u"αα€B"_s);
     row("table", R"(\intbl a\cell b\par c\cell\row\intbl\cell\cell\cell\row\pard d)", u"a\tb c\n\t\t\nd"_s);
     row("inner table",
         R"(\intbl a\cell\itap2 b\nestcell c\nestcell{\*\nesttableprops\nestrow}{\nonesttables\par}\itap1\cell\row\pard d)",
