@@ -14,7 +14,10 @@ enum class RtfHedefi : quint8
     İskelet,
     YazıTipleri,
     Renkler,
-    AlanKomutu
+    AlanKomutu,
+    Madde,
+    MaddeÖnü,
+    MaddeArdı
 };
 
 /// What a group does when it ends.
@@ -24,7 +27,8 @@ enum class RtfKapanışı : quint8
     Dipnot,
     Kutu,
     Alan,
-    AlanKomutu
+    AlanKomutu,
+    Madde
 };
 
 /// A group begins with its surrounding group's state, and its end restores that.
@@ -35,14 +39,17 @@ struct RtfDurumu
     quint32 Renk = KarakterBiçimi::Renksiz;
     int AlanBaşı = 0;         ///< place in the text where the field begins
     char16_t AlanSimgesi = 0; ///< what the field stands for where its result is empty
+    int Madde = -1;           ///< description of the list items that paragraphs are
     quint8 Bayraklar = 0;     ///< of RtfBayrağı
     quint8 YedekBoyu = 1;     ///< how many characters stand in for a Unicode one
     RtfHedefi Hedef = RtfHedefi::Metin;
     RtfHedefi İskelettekiHedef = RtfHedefi::Atlanan; ///< of the text deep in a frame
     RtfKapanışı Kapanış = RtfKapanışı::Yok;
-    bool Yeni = true;      ///< nothing but \* was read in the group
-    bool Yıldızlı = false; ///< \* was
-    bool Tabloda = false;  ///< the paragraph stands in a table cell
+    bool Yeni = true;             ///< nothing but \* was read in the group
+    bool Yıldızlı = false;        ///< \* was
+    bool Tabloda = false;         ///< the paragraph stands in a table cell
+    bool İçMetin = false;         ///< within a footnote, a text box or the description of an inner table
+    bool ListeMetniVardı = false; ///< the paragraph around that had its list text
 
     /// Whether letters become text here.
     bool Yazılıyor() const

@@ -3,6 +3,8 @@
 #include "controls/RtfAlanı.h"
 #include "controls/RtfBaşlığı.h"
 #include "controls/RtfDurumu.h"
+#include "controls/RtfMaddeleri.h"
+#include "controls/RtfSatırı.h"
 #include "controls/RtfSözcükleri.h"
 #include "controls/RtfTabloları.h"
 #include "controls/RtfÇıktısı.h"
@@ -61,6 +63,7 @@ private:
     bool işle(const RtfSözcüğü& söz); // false at the document's end
     void grupAç();
     void grupKapat();
+    void grupSonu(const RtfDurumu& biten);
     bool sürüyor();
     bool kapanmamışHedef() const;
     void sözcük(const RtfSözcüğü& söz);
@@ -68,6 +71,7 @@ private:
     void biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz);
     void başlık(const RtfTanımı& tanım, int değer);
     void hedef(const RtfTanımı& tanım);
+    void içMetin(RtfKapanışı kapanış);
     void simge(int işaret);
     void unicode(int değer);
     void düz(std::string_view baytlar);
@@ -77,6 +81,7 @@ private:
     void yarımHarf();
     void harf(char16_t harf);
     void biçimiBildir();
+    void paragrafBaşı();
 
     // Place of the font that letters are in.
     int yazıTipi() const
@@ -84,6 +89,7 @@ private:
         return durum_.Hedef == RtfHedefi::YazıTipleri ? başlık_.YazılanYazıTipi() : durum_.YazıTipi;
     }
     const KodSayfası& kodSayfası(Yazılış yazılış);
+    RtfSatırı& satır() { return durum_.İçMetin ? içSatır_ : satır_; }
 
     RtfSözcükleri sözcükler_;
     RtfÇıktısı çıktı_;
@@ -95,6 +101,9 @@ private:
     int atlanacak_ = 0; // characters that only stand in for a Unicode one
 
     RtfBaşlığı başlık_;
+    RtfSatırı satır_;
+    RtfSatırı içSatır_; // of a table in a footnote or a text box, or within a cell
+    RtfMaddeleri maddeler_;
     QString alanKomutu_;
     std::optional<KodSayfası> hamUtf8_;      // of bytes that stand for themselves, where that is UTF-8
     const KodSayfası* kodSayfası_ = nullptr; // of the present font; unknown until asked for
@@ -169,22 +178,41 @@ void Okuyucu::grupKapat()
         --fazlaGrup_;
         return;
     }
-    const RtfKapanışı kapanış = durum_.Kapanış;
-    if (kapanış != RtfKapanışı::Yok)
+    if (durum_.Kapanış != RtfKapanışı::Yok)
         yarımHarf();
-    if (kapanış == RtfKapanışı::Dipnot)
-        çıktı_.DipnotSonu();
-    else if (kapanış == RtfKapanışı::Kutu)
-        çıktı_.SatırBaşı();
-    else if (kapanış == RtfKapanışı::Alan && çıktı_.Boy() == durum_.AlanBaşı)
+    if (durum_.Kapanış == RtfKapanışı::Alan && çıktı_.Boy() == durum_.AlanBaşı)
         harf(durum_.AlanSimgesi);
-    durum_ = dıştakiler_.back();
+    const RtfDurumu biten = std::exchange(durum_, dıştakiler_.back());
     dıştakiler_.pop_back();
-    if (kapanış == RtfKapanışı::AlanKomutu)
-        durum_.AlanSimgesi = RtfAlanSimgesi(alanKomutu_);
+    grupSonu(biten);
     atlanacak_ = 0;
     biçimEski_ = true;
     kodSayfası_ = nullptr;
+}
+
+void Okuyucu::grupSonu(const RtfDurumu& biten)
+{
+    switch (biten.Kapanış) {
+    case RtfKapanışı::Dipnot:
+        çıktı_.DipnotSonu();
+        çıktı_.ListeMetniVar(biten.ListeMetniVardı);
+        break;
+    case RtfKapanışı::Kutu:
+        çıktı_.SatırBaşı();
+        çıktı_.ListeMetniVar(biten.ListeMetniVardı);
+        break;
+    case RtfKapanışı::AlanKomutu:
+        durum_.AlanSimgesi = RtfAlanSimgesi(alanKomutu_);
+        break;
+    case RtfKapanışı::Madde:
+        durum_.Madde = maddeler_.Bitir();
+        if (durum_.Madde >= 0 && çıktı_.ListeMetniVar())
+            maddeler_.Say(durum_.Madde);
+        break;
+    case RtfKapanışı::Yok:
+    case RtfKapanışı::Alan:
+        break;
+    }
 }
 
 // Whether the document goes on behind the brace of its first group.
@@ -258,11 +286,29 @@ void Okuyucu::yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz)
         return;
     yarımHarf();
     switch (tanım.Eylem) {
+    case RtfEylemi::SatırTanımı:
+        satır().Tanımla();
+        break;
+    case RtfEylemi::HücreTanımı:
+        satır().HücreTanımla();
+        break;
+    case RtfEylemi::BirleşikHücre:
+        satır().Birleştir();
+        break;
     case RtfEylemi::Hücre:
+        biçimiBildir();
+        if (satır().HücreBitir() == RtfSatırı::Sonraki::Sürer)
+            çıktı_.YeniSatır(true);
+        else
+            çıktı_.Hücre();
+        break;
+    case RtfEylemi::İçHücre:
         biçimiBildir();
         çıktı_.Hücre();
         break;
     case RtfEylemi::Satır:
+        satır().Bitir();
+        [[fallthrough]];
     case RtfEylemi::İçSatır:
         biçimiBildir();
         çıktı_.TabloSatırı(tanım.Eylem == RtfEylemi::İçSatır);
@@ -291,6 +337,8 @@ void Okuyucu::başlık(const RtfTanımı& tanım, int değer)
     kodSayfası_ = nullptr;
     if (tanım.Eylem == RtfEylemi::YedekBoyu)
         durum_.YedekBoyu = static_cast<quint8>(std::clamp(değer, 0, EnUzunYedek));
+    else if (durum_.Hedef == RtfHedefi::Madde)
+        maddeler_.Sözcük(tanım, değer);
     else
         başlık_.Sözcük(tanım, değer, durum_.Hedef == RtfHedefi::YazıTipleri);
 }
@@ -313,17 +361,38 @@ void Okuyucu::hedef(const RtfTanımı& tanım)
             durum_.Hedef = durum_.İskelettekiHedef;
         if (eylem == RtfEylemi::MetinKutusu && durum_.Hedef == RtfHedefi::Metin) {
             çıktı_.SatırBaşı();
-            durum_.Kapanış = RtfKapanışı::Kutu;
+            içMetin(RtfKapanışı::Kutu);
         }
+        break;
+    case RtfEylemi::İçTabloTanımı:
+        durum_.İçMetin = true;
         break;
     case RtfEylemi::Dipnot:
         if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
-            çıktı_.DipnotBaşı();
-            durum_.Kapanış = RtfKapanışı::Dipnot;
+            çıktı_.DipnotBaşı(durum_.Tabloda);
+            içMetin(RtfKapanışı::Dipnot);
         }
         break;
     case RtfEylemi::ListeMetni:
-        if (durum_.Hedef == RtfHedefi::Metin && !çıktı_.ListeMetniGerek())
+        if (durum_.Hedef != RtfHedefi::Metin)
+            break;
+        if (!çıktı_.ListeMetniGerek())
+            durum_.Hedef = RtfHedefi::Atlanan;
+        else if (durum_.Madde >= 0)
+            maddeler_.Say(durum_.Madde);
+        break;
+    case RtfEylemi::Madde:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            durum_.Hedef = RtfHedefi::Madde;
+            durum_.Kapanış = RtfKapanışı::Madde;
+            maddeler_.Başla();
+        }
+        break;
+    case RtfEylemi::MaddeÖnü:
+    case RtfEylemi::MaddeArdı:
+        if (durum_.Hedef == RtfHedefi::Madde)
+            durum_.Hedef = eylem == RtfEylemi::MaddeÖnü ? RtfHedefi::MaddeÖnü : RtfHedefi::MaddeArdı;
+        else if (durum_.Hedef == RtfHedefi::Metin)
             durum_.Hedef = RtfHedefi::Atlanan;
         break;
     case RtfEylemi::Alan:
@@ -348,6 +417,15 @@ void Okuyucu::hedef(const RtfTanımı& tanım)
         break;
     }
     kodSayfası_ = nullptr;
+}
+
+// Text with paragraphs of its own amid a paragraph.
+void Okuyucu::içMetin(RtfKapanışı kapanış)
+{
+    durum_.Kapanış = kapanış;
+    durum_.İçMetin = true;
+    durum_.ListeMetniVardı = çıktı_.ListeMetniVar();
+    çıktı_.ListeMetniVar(false);
 }
 
 void Okuyucu::simge(int işaret)
@@ -405,6 +483,7 @@ void Okuyucu::düz(std::string_view baytlar)
         const auto son = std::find_if_not(baytlar.begin(), baytlar.end(), ascii);
         const auto boy = static_cast<std::size_t>(son - baytlar.begin());
         biçimiBildir();
+        paragrafBaşı();
         çıktı_.Dizi(baytlar.substr(0, boy));
         baytlar.remove_prefix(boy);
     }
@@ -474,6 +553,7 @@ void Okuyucu::harf(char16_t harf)
     case RtfHedefi::Metin:
         if (durum_.Yazılıyor() && harf != 0) {
             biçimiBildir();
+            paragrafBaşı();
             çıktı_.Harf(harf);
         }
         break;
@@ -488,9 +568,16 @@ void Okuyucu::harf(char16_t harf)
         if (alanKomutu_.size() < EnUzunKomut)
             alanKomutu_ += QChar(harf);
         break;
+    case RtfHedefi::MaddeÖnü:
+        maddeler_.Harf(RtfEylemi::MaddeÖnü, harf);
+        break;
+    case RtfHedefi::MaddeArdı:
+        maddeler_.Harf(RtfEylemi::MaddeArdı, harf);
+        break;
     case RtfHedefi::Atlanan:
     case RtfHedefi::AtlananMetin:
     case RtfHedefi::İskelet:
+    case RtfHedefi::Madde:
         break;
     }
 }
@@ -499,6 +586,18 @@ void Okuyucu::biçimiBildir()
 {
     if (std::exchange(biçimEski_, false))
         çıktı_.Biçimle(durum_.Biçim(başlık_));
+}
+
+// Before each letter: the first one of an item stands behind its number or bullet.
+void Okuyucu::paragrafBaşı()
+{
+    if (durum_.İçMetin)
+        return;
+    if (durum_.Madde < 0)
+        maddeler_.Kes();
+    else if (çıktı_.ListeMetniGerek())
+        for (const QChar h : maddeler_.Say(durum_.Madde))
+            çıktı_.Harf(h.unicode());
 }
 
 const KodSayfası& Okuyucu::kodSayfası(Yazılış yazılış)

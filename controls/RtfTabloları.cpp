@@ -59,10 +59,9 @@ constexpr std::string_view AtlananHedefler[] = {"atnauthor",
                                                 "panose",
                                                 "pgptbl",
                                                 "pict",
-                                                "pn",
+
                                                 "pnseclvl",
-                                                "pntxta",
-                                                "pntxtb",
+
                                                 "printim",
                                                 "private",
                                                 "revtbl",
@@ -101,6 +100,11 @@ struct Satır
     RtfTanımı tanım;
 };
 
+constexpr int tür(RtfMaddeTürü tür)
+{
+    return static_cast<int>(tür);
+}
+
 constexpr Satır Diğerleri[] = {
     {"tab", {E::Harf, u'\t'}},
     {"emdash", {E::Harf, 0x2014}},
@@ -126,7 +130,10 @@ constexpr Satır Diğerleri[] = {
     {"sect", {E::YeniSatır}},
     {"column", {E::YeniSatır}},
     {"cell", {E::Hücre}},
-    {"nestcell", {E::Hücre}},
+    {"nestcell", {E::İçHücre}},
+    {"trowd", {E::SatırTanımı}},
+    {"cellx", {E::HücreTanımı}},
+    {"clmrg", {E::BirleşikHücre}},
     {"row", {E::Satır}},
     {"nestrow", {E::İçSatır}},
     {"u", {E::Unicode}},
@@ -138,6 +145,7 @@ constexpr Satır Diğerleri[] = {
     {"deleted", {E::Bayrak, RtfBayrağı::Silinmiş}},
     {"ulnone", {E::BayrakSil, RtfBayrağı::AltıÇizili}},
     {"f", {E::YazıTipi}},
+    {"pnf", {E::YazıTipi}},
     {"fs", {E::Boy}},
     {"cf", {E::Renk}},
     {"plain", {E::HarfBiçimiSıfırla}},
@@ -152,6 +160,15 @@ constexpr Satır Diğerleri[] = {
     {"deff", {E::VarsayılanYazıTipi}},
     {"fcharset", {E::KarakterKümesi}},
     {"cpg", {E::YazıTipiKodSayfası}},
+    {"pnlvl", {E::MaddeDüzeyi}},
+    {"pnlvlbody", {E::MaddeTürü, tür(RtfMaddeTürü::Sayı)}},
+    {"pnlvlblt", {E::MaddeTürü, tür(RtfMaddeTürü::İmli)}},
+    {"pndec", {E::MaddeTürü, tür(RtfMaddeTürü::Sayı)}},
+    {"pnucltr", {E::MaddeTürü, tür(RtfMaddeTürü::BüyükHarf)}},
+    {"pnlcltr", {E::MaddeTürü, tür(RtfMaddeTürü::KüçükHarf)}},
+    {"pnucrm", {E::MaddeTürü, tür(RtfMaddeTürü::BüyükRoma)}},
+    {"pnlcrm", {E::MaddeTürü, tür(RtfMaddeTürü::KüçükRoma)}},
+    {"pnstart", {E::MaddeBaşlangıcı}},
     {"red", {E::RenkBileşeni, 0}},
     {"green", {E::RenkBileşeni, 1}},
     {"blue", {E::RenkBileşeni, 2}},
@@ -161,7 +178,7 @@ constexpr Satır Diğerleri[] = {
     {"fldinst", {E::AlanKomutu}},
     {"fldrslt", {E::MetinHedefi}},
     {"result", {E::MetinHedefi}},
-    {"nesttableprops", {E::MetinHedefi}},
+    {"nesttableprops", {E::İçTabloTanımı}},
     {"upr", {E::İskelet}},
     {"shpinst", {E::İskelet}},
     {"do", {E::İskelet}},
@@ -171,6 +188,9 @@ constexpr Satır Diğerleri[] = {
     {"footnote", {E::Dipnot}},
     {"listtext", {E::ListeMetni}},
     {"pntext", {E::ListeMetni}},
+    {"pn", {E::Madde}},
+    {"pntxtb", {E::MaddeÖnü}},
+    {"pntxta", {E::MaddeArdı}},
     {"fonttbl", {E::YazıTipleri}},
     {"colortbl", {E::Renkler}},
 };

@@ -85,6 +85,12 @@ void TestControlsRtf::texts_data()
         u"ab\nc\nd"_s);
     row("list", R"({\listtext\u8226?\tab}{\pntext 1}a\par{\pntext 2.\tab}b)", u"•\ta\n2.\tb"_s);
     row("list in a cell", R"(\intbl{\listtext 1.}a\par{\listtext 2.}b\cell\row)", u"1.a 2.b\n"_s);
+    row("items without list text",
+        R"({\fonttbl{\f1\fcharset2 Symbol;}}a{\*\pn\pnlvlbody\pndec\pnstart9{\pntxtb (}{\pntxta )}}\par b{\footnote x\par y}\par{\pntext .}c{\shp{\*\shpinst{\shptxt z\par}}}d\par e\par\pard f\par{\*\pn\pnlvlblt}g\par{\pntxta h}\pard{\*\pn\pnlvlblt\pnf1{\pntxtb\'ae}}i)",
+        u"a\n(9)\tb [x y]\n.c\nz\nd\n(11)\te\nf\n•\tg\n→\ti"_s);
+    row("levels of items",
+        R"({\*\pn\pnlvl1\pnucrm{\pntxta.}}a\par\pard{\*\pn\pnlvl2\pnlcltr\pnstart26}b\par c\par\pard{\*\pn\pnlvl1\pnucrm{\pntxta.}}d\par\pard{\*\pn\pnlvl2\pnlcltr\pnstart26}e\par\pard{\*\pn\pnlcrm\pnstart1999}f\par\pard{\*\pn\pnucltr}g\par\pard{\*\pn\pnlvlcont}h)",
+        u"I.\ta\nz\tb\naa\tc\nII.\td\nz\te\nmcmxcix\tf\nA\tg\nh"_s);
     row("symbol fonts",
         R"({\fonttbl{\f1\fcharset2 Symbol;}{\f2 Zapf Dingbats;}{\f3\fcharset2 WINGDINGS;}}{\f1 ab\'a5\u-3999?}{\f2 4\'f1}{\f3\'fc\'02})",
         u"αβ∞α✔➱✓|0+4 Symbol,4+2 Zapf Dingbats,6+1 WINGDINGS"_s);
@@ -96,6 +102,12 @@ void TestControlsRtf::texts_data()
     row("inner table",
         R"(\intbl a\cell\itap2 b\nestcell c\nestcell{\*\nesttableprops\nestrow}{\nonesttables\par}\itap1\cell\row\pard d)",
         u"a\tb\tc\nd"_s);
+    row("merged cells",
+        R"(\trowd\clmgf\cellx1\clmrg\cellx2\clvmgf\cellx3\intbl a\cell b{\*\nesttableprops\trowd}\cell c\cell\row\cell\cell d\cell\row\trowd\cellx1\clmrg\cellx2\clvmrg\cellx3 e\cell\cell\cell\row)",
+        u"a b\tc\n\td\ne\t\n"_s);
+    row("table in a footnote",
+        R"(a{\footnote\intbl\cell b\cell c\cell\row d\cell\cell e\cell\row\pard}.\intbl{\footnote\intbl f\cell g\cell\row h\cell\row}\cell i\cell\row)",
+        u"a [b\tc\nd\t\te]. [f g h]\ti\n"_s);
     row("footnotes", R"(a{\footnote\chftn  b\par c}.{\footnote})", u"a [b c]."_s);
     row("binary", R"(a{\pict\bin3 }{}}b\bin-1 c{\pict\bin9 x}d e f g h i j{\pict\bin99999999999 y}k)",
         u"abcd e f g h i jk"_s);
