@@ -3,6 +3,7 @@
 #include "controls/RtfAlanı.h"
 #include "controls/RtfBaşlığı.h"
 #include "controls/RtfDurumu.h"
+#include "controls/RtfHarfleri.h"
 #include "controls/RtfMaddeleri.h"
 #include "controls/RtfSatırı.h"
 #include "controls/RtfSözcükleri.h"
@@ -12,8 +13,6 @@
 #include "controls/Utf8.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -42,24 +41,19 @@ qsizetype imzaYeri(QByteArrayView baytlar)
 class Okuyucu
 {
 public:
-    explicit Okuyucu(QByteArrayView belge) : sözcükler_(belge)
+    explicit Okuyucu(QByteArrayView belge)
+        : sözcükler_(belge), harfler_(başlık_, [this](char16_t h) { harf(h); })
     {
         const RtfKodlaması kodlama = RtfKodlamasıBul(belge);
         if (kodlama.KaçışlıUtf8)
             başlık_.Utf8Varsay();
         if (kodlama.HamUtf8)
-            hamUtf8_.emplace(KodSayfası::Utf8);
+            harfler_.HamUtf8Varsay();
     }
 
     BiçimliMetin oku();
 
 private:
-    enum class Yazılış // of a byte
-    {
-        Ham,
-        Kaçışlı
-    };
-
     bool işle(const RtfSözcüğü& söz); // false at the document's end
     void grupAç();
     void grupKapat();
@@ -68,6 +62,7 @@ private:
     bool kapanmamışHedef() const;
     void sözcük(const RtfSözcüğü& söz);
     void yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz);
+    void yeniSatır(RtfEylemi eylem);
     void biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz);
     void başlık(const RtfTanımı& tanım, int değer);
     void hedef(const RtfTanımı& tanım);
@@ -76,9 +71,6 @@ private:
     void unicode(int değer);
     void düz(std::string_view baytlar);
     void yedeğiAtla(std::string_view& baytlar);
-    void bayt(unsigned char bayt, Yazılış yazılış);
-    void çokBaytlı(unsigned char bayt, Yazılış yazılış);
-    void yarımHarf();
     void harf(char16_t harf);
     void biçimiBildir();
     void paragrafBaşı();
@@ -88,7 +80,6 @@ private:
     {
         return durum_.Hedef == RtfHedefi::YazıTipleri ? başlık_.YazılanYazıTipi() : durum_.YazıTipi;
     }
-    const KodSayfası& kodSayfası(Yazılış yazılış);
     RtfSatırı& satır() { return durum_.İçMetin ? içSatır_ : satır_; }
 
     RtfSözcükleri sözcükler_;
@@ -101,15 +92,11 @@ private:
     int atlanacak_ = 0; // characters that only stand in for a Unicode one
 
     RtfBaşlığı başlık_;
+    RtfHarfleri harfler_;
     RtfSatırı satır_;
     RtfSatırı içSatır_; // of a table in a footnote or a text box, or within a cell
     RtfMaddeleri maddeler_;
     QString alanKomutu_;
-    std::optional<KodSayfası> hamUtf8_;      // of bytes that stand for themselves, where that is UTF-8
-    const KodSayfası* kodSayfası_ = nullptr; // of the present font; unknown until asked for
-    std::array<char, 4> yarım_{};            // a letter's first bytes; formats may change before the next
-    std::size_t yarımBoyu_ = 0;
-    const KodSayfası* yarımSayfası_ = nullptr;
 };
 
 BiçimliMetin Okuyucu::oku()
@@ -123,7 +110,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
 {
     switch (söz.Tür) {
     case RtfTürü::Son:
-        yarımHarf();
+        harfler_.Kes();
         if (çıktı_.Boş() && durum_.Hedef != RtfHedefi::Metin)
             bozuk();
         fazlaGrup_ = 0;
@@ -149,12 +136,13 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
     durum_.Yeni = false;
     if (durum_.Atlanıyor())
         return true;
+    harfler_.YazıTipi(yazıTipi());
     if (söz.Tür == RtfTürü::Düz)
         düz(söz.Ad);
     else if (atlanacak_ > 0)
         --atlanacak_;
     else
-        bayt(static_cast<unsigned char>(söz.Değer), Yazılış::Kaçışlı);
+        harfler_.Bayt(static_cast<unsigned char>(söz.Değer), RtfHarfleri::Yazılış::Kaçışlı);
     return true;
 }
 
@@ -178,8 +166,8 @@ void Okuyucu::grupKapat()
         --fazlaGrup_;
         return;
     }
-    if (durum_.Kapanış != RtfKapanışı::Yok)
-        yarımHarf();
+    if (durum_.Kapanış != RtfKapanışı::Yok || dıştakiler_.size() == 1)
+        harfler_.Kes();
     if (durum_.Kapanış == RtfKapanışı::Alan && çıktı_.Boy() == durum_.AlanBaşı)
         harf(durum_.AlanSimgesi);
     const RtfDurumu biten = std::exchange(durum_, dıştakiler_.back());
@@ -187,7 +175,6 @@ void Okuyucu::grupKapat()
     grupSonu(biten);
     atlanacak_ = 0;
     biçimEski_ = true;
-    kodSayfası_ = nullptr;
 }
 
 void Okuyucu::grupSonu(const RtfDurumu& biten)
@@ -284,7 +271,7 @@ void Okuyucu::yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz)
     }
     if (durum_.Hedef != RtfHedefi::Metin)
         return;
-    yarımHarf();
+    harfler_.Kes();
     switch (tanım.Eylem) {
     case RtfEylemi::SatırTanımı:
         satır().Tanımla();
@@ -314,16 +301,22 @@ void Okuyucu::yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz)
         çıktı_.TabloSatırı(tanım.Eylem == RtfEylemi::İçSatır);
         break;
     default:
-        if (durum_.Yazılıyor()) {
-            biçimiBildir();
-            çıktı_.YeniSatır(durum_.Tabloda);
-        }
+        if (durum_.Yazılıyor())
+            yeniSatır(tanım.Eylem);
     }
+}
+
+void Okuyucu::yeniSatır(RtfEylemi eylem)
+{
+    biçimiBildir();
+    const bool listeMetniVar = çıktı_.ListeMetniVar();
+    çıktı_.YeniSatır(durum_.Tabloda);
+    if (eylem == RtfEylemi::YeniSatır) // the item goes on
+        çıktı_.ListeMetniVar(listeMetniVar);
 }
 
 void Okuyucu::biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz)
 {
-    kodSayfası_ = nullptr;
     if (tanım.Eylem == RtfEylemi::YazıTipi && durum_.Hedef == RtfHedefi::YazıTipleri) {
         başlık_.YazıTipiBaşı(söz.Değer);
         return;
@@ -334,13 +327,14 @@ void Okuyucu::biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz)
 
 void Okuyucu::başlık(const RtfTanımı& tanım, int değer)
 {
-    kodSayfası_ = nullptr;
     if (tanım.Eylem == RtfEylemi::YedekBoyu)
         durum_.YedekBoyu = static_cast<quint8>(std::clamp(değer, 0, EnUzunYedek));
     else if (durum_.Hedef == RtfHedefi::Madde)
         maddeler_.Sözcük(tanım, değer);
-    else
+    else {
         başlık_.Sözcük(tanım, değer, durum_.Hedef == RtfHedefi::YazıTipleri);
+        harfler_.Unut();
+    }
 }
 
 void Okuyucu::hedef(const RtfTanımı& tanım)
@@ -416,7 +410,6 @@ void Okuyucu::hedef(const RtfTanımı& tanım)
     default: // text as before
         break;
     }
-    kodSayfası_ = nullptr;
 }
 
 // Text with paragraphs of its own amid a paragraph.
@@ -451,11 +444,9 @@ void Okuyucu::unicode(int değer)
     } else if (kod > 0xFFFF) {
         harf(QChar::highSurrogate(static_cast<char32_t>(kod)));
         harf(QChar::lowSurrogate(static_cast<char32_t>(kod)));
-    } else if ((kod & 0xFF00) == 0xF000 && başlık_.Simgesel(yazıTipi())) {
-        // So symbol fonts have their bytes in Unicode.
-        bayt(static_cast<unsigned char>(kod & 0xFF), Yazılış::Kaçışlı);
     } else {
-        harf(static_cast<char16_t>(kod));
+        harfler_.YazıTipi(yazıTipi());
+        harfler_.Unicode(static_cast<char16_t>(kod));
     }
     atlanacak_ = durum_.YedekBoyu;
 }
@@ -465,7 +456,7 @@ void Okuyucu::yedeğiAtla(std::string_view& baytlar)
 {
     for (; atlanacak_ > 0 && !baytlar.empty(); --atlanacak_) {
         const QByteArrayView kalan(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
-        baytlar.remove_prefix(hamUtf8_ ? static_cast<std::size_t>(Utf8İlk(kalan).Boy) : 1);
+        baytlar.remove_prefix(harfler_.HamUtf8() ? static_cast<std::size_t>(Utf8İlk(kalan).Boy) : 1);
     }
 }
 
@@ -473,10 +464,9 @@ void Okuyucu::düz(std::string_view baytlar)
 {
     yedeğiAtla(baytlar);
     const auto ascii = [](char bayt) { return static_cast<unsigned char>(bayt) < 0x80; };
-    const bool harfli = durum_.Yazılıyor() && !başlık_.Simgeler(yazıTipi());
     while (!baytlar.empty()) {
-        if (yarımBoyu_ > 0 || !harfli || !ascii(baytlar.front())) {
-            bayt(static_cast<unsigned char>(baytlar.front()), Yazılış::Ham);
+        if (!durum_.Yazılıyor() || !ascii(baytlar.front()) || !harfler_.Ascii()) {
+            harfler_.Bayt(static_cast<unsigned char>(baytlar.front()), RtfHarfleri::Yazılış::Ham);
             baytlar.remove_prefix(1);
             continue;
         }
@@ -489,66 +479,9 @@ void Okuyucu::düz(std::string_view baytlar)
     }
 }
 
-void Okuyucu::bayt(unsigned char bayt, Yazılış yazılış)
-{
-    if (yarımBoyu_ > 0 && yarımSayfası_ == &kodSayfası(yazılış)) {
-        çokBaytlı(bayt, yazılış);
-        return;
-    }
-    yarımHarf();
-    const bool utf8 = bayt >= 0x80 && yazılış == Yazılış::Ham && hamUtf8_;
-    const SimgeTablosu* simgeler = utf8 ? nullptr : başlık_.Simgeler(yazıTipi());
-    if (simgeler && (*simgeler)[bayt] != 0) {
-        harf((*simgeler)[bayt]);
-        return;
-    }
-    if (bayt < 0x80) {
-        harf(bayt);
-        return;
-    }
-    // The bullets of the usual symbol fonts.
-    if ((bayt == 0xB7 || bayt == 0xA7) && !utf8 && başlık_.Simgesel(yazıTipi())) {
-        harf(bayt == 0xB7 ? 0x2022 : 0x25AA);
-        return;
-    }
-    const KodSayfası& sayfa = kodSayfası(yazılış);
-    if (sayfa.Boy(bayt) == 1) {
-        harf(sayfa.Harf(bayt));
-    } else {
-        yarımSayfası_ = &sayfa;
-        yarım_[yarımBoyu_++] = static_cast<char>(bayt);
-    }
-}
-
-void Okuyucu::çokBaytlı(unsigned char bayt, Yazılış yazılış)
-{
-    const KodSayfası& sayfa = *yarımSayfası_;
-    yarım_[yarımBoyu_++] = static_cast<char>(bayt);
-    if (yarımBoyu_ < static_cast<std::size_t>(sayfa.Boy(static_cast<unsigned char>(yarım_[0]))))
-        return;
-    const QString harfler = sayfa.Harf({yarım_.data(), yarımBoyu_});
-    const auto baytlar = yarım_;
-    const std::size_t boy = yarımBoyu_;
-    if (harfler.isEmpty()) { // those behind the first may be letters of their own
-        yarımHarf();
-        for (std::size_t i = 1; i < boy; ++i)
-            this->bayt(static_cast<unsigned char>(baytlar[i]), yazılış);
-    }
-    yarımBoyu_ = 0;
-    for (const QChar h : harfler)
-        harf(h.unicode());
-}
-
-// A letter of several bytes breaks off, if there is one.
-void Okuyucu::yarımHarf()
-{
-    if (std::exchange(yarımBoyu_, 0) > 0)
-        harf(QChar::ReplacementCharacter);
-}
-
 void Okuyucu::harf(char16_t harf)
 {
-    yarımHarf();
+    harfler_.Kes();
     switch (durum_.Hedef) {
     case RtfHedefi::Metin:
         if (durum_.Yazılıyor() && harf != 0) {
@@ -598,15 +531,6 @@ void Okuyucu::paragrafBaşı()
     else if (çıktı_.ListeMetniGerek())
         for (const QChar h : maddeler_.Say(durum_.Madde))
             çıktı_.Harf(h.unicode());
-}
-
-const KodSayfası& Okuyucu::kodSayfası(Yazılış yazılış)
-{
-    if (yazılış == Yazılış::Ham && hamUtf8_)
-        return *hamUtf8_;
-    if (!kodSayfası_)
-        kodSayfası_ = &başlık_.KodSayfasıBul(yazıTipi());
-    return *kodSayfası_;
 }
 
 } // namespace

@@ -10,7 +10,8 @@ enum class RtfEylemi : quint8
 {
     // Letters and structure; these give text.
     Harf,          ///< the value is a UTF-16 unit
-    YeniSatır,     ///< end of a paragraph, line, column, page or section
+    Paragraf,      ///< end of a paragraph or section
+    YeniSatır,     ///< end of a line, column or page
     SatırTanımı,   ///< begins the description of a table row's cells
     HücreTanımı,   ///< a cell ends in it
     BirleşikHücre, ///< that cell continues the one before
