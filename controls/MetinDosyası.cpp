@@ -136,7 +136,7 @@ bool avrupalı(char16_t harf)
            harf == u'\n' || harf == u'\r';
 }
 
-// Whether most units of UTF-16 in this order are such letters and none is NUL.
+// Whether most units of UTF-16 in this order are such letters.
 bool utf16Mı(QByteArrayView baytlar, QStringDecoder::Encoding kod)
 {
     const qsizetype üst = kod == QStringDecoder::Utf16BE ? 0 : 1;
@@ -146,8 +146,6 @@ bool utf16Mı(QByteArrayView baytlar, QStringDecoder::Encoding kod)
             return static_cast<unsigned char>(baytlar[yer + kaçıncı]);
         };
         const auto harf = static_cast<char16_t>(bayt(üst) << 8 | bayt(1 - üst));
-        if (harf == 0)
-            return false;
         avrupalılar += avrupalı(harf);
     }
     return avrupalılar * 4 >= baytlar.size() / 2 * 3;
