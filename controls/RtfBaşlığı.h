@@ -32,8 +32,12 @@ public:
 
     /// Place of a font; -1 when there is none of this number.
     int YazıTipiYeri(int no) const { return yerler_.value(no, -1); }
-    /// Family; empty for the default font.
-    QString YazıTipiAdı(int yer) const { return yer < 0 ? QString() : yazıTipi(yer).ad; }
+    /// Family; empty for the default font, and for a symbol font whose signs are known: it has nothing for
+    /// their Unicode characters.
+    QString YazıTipiAdı(int yer) const
+    {
+        return yer < 0 || yazıTipi(yer).simgeler ? QString() : yazıTipi(yer).ad;
+    }
     /// Whether the font holds signs in place of letters.
     bool Simgesel(int yer) const;
     /// Its signs; nullptr for a font of letters, or of signs that aren't known.

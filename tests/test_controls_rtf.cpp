@@ -55,7 +55,7 @@ void TestControlsRtf::texts_data()
         R"({\fonttbl{\f1\fcharset134 A;}}{\f1\'c4}{\f1\'e3\'ba\f1\'c3\'ba}{\f1\'c3\'ba\par}\'fe{\f1\'ba}\'fe)",
         u"你好好\uFFFD\nþ\uFFFDþ|0+5 A"_s);
     row("UTF-8 unsaid", R"({\fonttbl\f0\fcharset134;\f1 Symbol;}{\f1ş}\f0日\u351ş\b0ğ\'c4\'e3)",
-        u"ş日şğ你|0+1 Symbol"_s);
+        u"ş日şğ你"_s);
     row("UTF-8 unsaid, escaped", R"({\fonttbl{\f0\fcharset162 A;}}\f0\'c5\'9f\'e2\'82\'ac.)", u"ş€.|0+3 A"_s);
     row("looks like UTF-8", "\\ansicpg936 \xc4\xa3\\'c4\\'a3", u"模模"_s);
     row("looks like UTF-8, Turkish", R"(\ansicpg1254 \'c4\'b1\'fd)", u"Ä±ı"_s);
@@ -86,7 +86,7 @@ void TestControlsRtf::texts_data()
         u"I.\ta\nz\tb\naa\tc\nII.\td\nz\te\nmcmxcix\tf\nA\tg\nh\ni\nA\tj"_s);
     row("symbol fonts",
         R"({\fonttbl{\f1\fcharset2 Symbol;}{\f2 Zapf Dingbats;}{\f3\fcharset2 WINGDINGS;}}{\f1 ab\'a5\u-3999?}{\f2 4\'f1}{\f3\'fc\'02})",
-        u"αβ∞α✔➱✓|0+4 Symbol,4+2 Zapf Dingbats,6+1 WINGDINGS"_s);
+        u"αβ∞α✔➱✓"_s);
     row("unknown symbol font", R"({\fonttbl{\f3\fcharset2 X;}}\f3\'b7\u-3929?a\'fd)", u"•▪aý|0+4 X"_s);
     row("symbol fields",
         R"({\field{\*\fldinst SYMBOL 97 \\f "Symbol" \\s 10}{\fldrslt}}{\field{\fldinst{\b SYMBOL 0xF061 \\f Symbol}}}{\field{\*\fldinst SYMBOL 8364 \\u}{\fldrslt{}}}{\field{\*\fldinst SYMBOL 65}{\fldrslt B}}{\field{\*\fldinst PAGE 65}})",
