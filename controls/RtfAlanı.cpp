@@ -4,7 +4,6 @@
 #include "controls/SimgeYazıTipleri.h"
 
 #include <QString>
-#include <QStringList>
 
 namespace {
 
@@ -33,5 +32,6 @@ char16_t RtfAlanSimgesi(QStringView komut)
         return static_cast<char16_t>(no);
     const SimgeTablosu* simgeler = SimgeTablosuBul(değeri(sade, QLatin1StringView("\\f")));
     const char16_t simge = simgeler ? (*simgeler)[bayt] : u'\0';
-    return simge ? simge : KodSayfası(KodSayfası::Windows1252).Harf(static_cast<unsigned char>(bayt));
+    static const KodSayfası batı(KodSayfası::Windows1252);
+    return simge ? simge : batı.Harf(static_cast<unsigned char>(bayt));
 }

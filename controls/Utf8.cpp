@@ -91,7 +91,6 @@ Utf8Adımı Utf8İlk(QByteArrayView baytlar)
 QString Utf8Çöz(QByteArrayView baytlar)
 {
     QString metin;
-    metin.reserve(baytlar.size());
     qsizetype baş = 0;
     for (qsizetype yer = 0; yer < baytlar.size();) {
         const Utf8Adımı adım = Utf8İlk(baytlar.sliced(yer));
@@ -102,8 +101,8 @@ QString Utf8Çöz(QByteArrayView baytlar)
         }
         yer += adım.Boy;
     }
-    metin += QString::fromUtf8(baytlar.sliced(baş));
-    return metin;
+    const QString son = QString::fromUtf8(baytlar.sliced(baş));
+    return baş == 0 ? son : metin + son; // most texts have no wrong letter, and are not copied
 }
 
 void Utf8Sayacı::Say(QByteArrayView baytlar, char önceki)
