@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int Utf8 = 65001;
 constexpr int Johab = 1361; // ICU has no table for it, the C library has
 
 struct Sayfa
@@ -77,7 +76,7 @@ constexpr Sayfa Sayfalar[] = {
     {28599, "ISO-8859-9"},
     {28605, "ISO-8859-15"},
     {54936, "windows-936-2000"},
-    {Utf8, "UTF-8"},
+    {KodSayfası::Utf8, "UTF-8"},
 };
 
 const Sayfa* sayfaBul(int no)
@@ -100,7 +99,7 @@ quint8 harfBoyu(int no, int baş)
 {
     const auto arada = [baş](int ilk, int son) { return baş >= ilk && baş <= son; };
     switch (no) {
-    case Utf8:
+    case KodSayfası::Utf8:
         return utf8Boyu(baş);
     case 932:
     case 10001:

@@ -14,6 +14,7 @@ class KodSayfası
 public:
     static constexpr int Windows1252 = 1252;
     static constexpr int Windows1254 = 1254;
+    static constexpr int Utf8 = 65001;
 
     static bool Biliniyor(int no);
     /// @param no a known page; Windows-1252 stands for any other

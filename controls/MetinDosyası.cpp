@@ -2,6 +2,7 @@
 
 #include "controls/KodSayfası.h"
 #include "controls/RtfOkuyucu.h"
+#include "controls/Utf8.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <new>
+#include <optional>
 
 namespace {
 
@@ -126,23 +128,67 @@ QString windows1254(QByteArrayView baytlar)
     return metin;
 }
 
+// Letters and signs of the alphabets of Europe.
+bool avrupalı(char16_t harf)
+{
+    return (harf >= u' ' && harf < u'\x7F') || (harf >= 0xA0 && harf < 0x530) ||
+           (harf >= 0x2010 && harf <= 0x2026) || harf == u'€' || harf == u'₺' || harf == u'\t' ||
+           harf == u'\n' || harf == u'\r';
+}
+
+// Whether most units of UTF-16 in this order are such letters.
+bool utf16Mı(QByteArrayView baytlar, QStringDecoder::Encoding kod)
+{
+    const qsizetype üst = kod == QStringDecoder::Utf16BE ? 0 : 1;
+    qsizetype avrupalılar = 0;
+    for (qsizetype yer = 0; yer < baytlar.size(); yer += 2) {
+        const auto bayt = [&](qsizetype kaçıncı) {
+            return static_cast<unsigned char>(baytlar[yer + kaçıncı]);
+        };
+        const auto harf = static_cast<char16_t>(bayt(üst) << 8 | bayt(1 - üst));
+        avrupalılar += avrupalı(harf);
+    }
+    return avrupalılar * 4 >= baytlar.size() / 2 * 3;
+}
+
+// The order of UTF-16 without a mark; none for other bytes.
+std::optional<QStringDecoder::Encoding> işaretsizUtf16(QByteArrayView baytlar)
+{
+    // Its upper bytes are control characters in any other text.
+    if (baytlar.size() % 2 != 0 ||
+        std::none_of(baytlar.begin(), baytlar.end(), [](char bayt) { return bayt >= 0 && bayt < '\t'; }))
+        return std::nullopt;
+    for (const auto kod : {QStringDecoder::Utf16LE, QStringDecoder::Utf16BE})
+        if (utf16Mı(baytlar, kod))
+            return kod;
+    return std::nullopt;
+}
+
+bool utf8Mi(QByteArrayView baytlar)
+{
+    Utf8Sayacı sayaç;
+    sayaç.Say(baytlar);
+    return sayaç.Utf8Mi();
+}
+
 // Text of which nothing but the encoding is undone.
 QString harfleriAl(QByteArrayView baytlar)
 {
     const auto imzalı = [baytlar](QByteArrayView imza) { return baytlar.startsWith(imza); };
-    const auto çöz = [baytlar](QStringDecoder::Encoding kod, qsizetype imzaBoyu) -> QString {
+    const auto utf16 = [baytlar](QStringDecoder::Encoding kod, qsizetype imzaBoyu) -> QString {
         return QStringDecoder(kod, QStringDecoder::Flag::Stateless)(baytlar.sliced(imzaBoyu));
     };
     if (imzalı("\xFF\xFE"))
-        return çöz(QStringDecoder::Utf16LE, 2);
+        return utf16(QStringDecoder::Utf16LE, 2);
     if (imzalı("\xFE\xFF"))
-        return çöz(QStringDecoder::Utf16BE, 2);
+        return utf16(QStringDecoder::Utf16BE, 2);
+    if (const auto kod = işaretsizUtf16(baytlar))
+        return utf16(*kod, 0);
     if (baytlar.contains('\0'))
         at(QStringLiteral("Bu bir metin dosyası değil."));
     if (imzalı("\xEF\xBB\xBF")) // it says so itself; wrong bytes don't make it Turkish Windows text
-        return çöz(QStringDecoder::Utf8, 3);
-    return QUtf8StringView(baytlar.data(), baytlar.size()).isValidUtf8() ? çöz(QStringDecoder::Utf8, 0)
-                                                                         : windows1254(baytlar);
+        return Utf8Çöz(baytlar.sliced(3));
+    return utf8Mi(baytlar) ? Utf8Çöz(baytlar) : windows1254(baytlar);
 }
 
 bool satırSonu(char16_t harf)

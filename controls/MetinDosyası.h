@@ -10,8 +10,9 @@
 /// positions are ints, and reading may take twenty times the size in memory.
 inline constexpr qint64 MetinDosyasıSınırı = qint64(256) * 1024 * 1024;
 
-/// Reads a file and tells its kind by what it holds: RTF; UTF-16 with a byte order mark; UTF-8; else
-/// Windows-1254. Line ends of all kinds and form feeds become "\n". An empty file gives an empty text.
+/// Reads a file and tells its kind by what it holds: RTF; UTF-16, also without a byte order mark where its
+/// letters are those of Europe; UTF-8, also with some wrong bytes; else Windows-1254. Line ends of all kinds
+/// and form feeds become "\n". An empty file gives an empty text.
 /// @param yol path of a regular file or a link to one
 /// @throws MetinOkumaHatası with a sentence that names the file: it is missing, a folder or a device, too
 ///         large, binary, a damaged RTF document, may not or can't be read, or does not fit into memory

@@ -79,29 +79,53 @@ void RtfBaşlığı::YazıTipiHarfi(char16_t harf)
     if (tip.adBitti)
         return;
     tip.adBitti = harf == u';';
-    if (tip.adBitti)
+    if (tip.adBitti) {
         tip.ad = sadeAd(tip.ad);
-    else if (tip.ad.size() < EnUzunYazıTipiAdı)
+        tip.simgeler = SimgeTablosuBul(tip.ad);
+    } else if (tip.ad.size() < EnUzunYazıTipiAdı) {
         tip.ad += QChar(harf);
+    }
+}
+
+// The default font where there is no other; nullptr where that isn't in the table.
+const RtfBaşlığı::YazıTipi* RtfBaşlığı::asıl(int yer) const
+{
+    const int asılYer = yer < 0 ? YazıTipiYeri(varsayılan_) : yer;
+    return asılYer < 0 ? nullptr : &yazıTipi(asılYer);
 }
 
 bool RtfBaşlığı::Simgesel(int yer) const
 {
-    const int asıl = yer < 0 ? YazıTipiYeri(varsayılan_) : yer;
-    return asıl >= 0 && yazıTipi(asıl).kodSayfası == RtfKodSayfası::Simgesel;
+    const YazıTipi* tip = asıl(yer);
+    return tip && (tip->simgeler || tip->kodSayfası == RtfKodSayfası::Simgesel);
+}
+
+const SimgeTablosu* RtfBaşlığı::Simgeler(int yer) const
+{
+    const YazıTipi* tip = asıl(yer);
+    return tip ? tip->simgeler : nullptr;
+}
+
+int RtfBaşlığı::belgeninKodu() const
+{
+    return utf8Varsayılan_ ? KodSayfası::Utf8 : belgeKodu_;
 }
 
 int RtfBaşlığı::kodu(int yer) const
 {
-    const int asıl = yer < 0 ? YazıTipiYeri(varsayılan_) : yer;
-    const int kod = asıl < 0 ? RtfKodSayfası::Belgenin : yazıTipi(asıl).kodSayfası;
+    const YazıTipi* tip = asıl(yer);
+    const int kod = tip ? tip->kodSayfası : RtfKodSayfası::Belgenin;
+    const int belgenin = belgeninKodu();
     if (kod == RtfKodSayfası::Belgenin || kod == RtfKodSayfası::Simgesel)
-        return belgeKodu_;
+        return belgenin;
+    const bool batı = kod == KodSayfası::Windows1252;
+    const bool türkçe = kod == KodSayfası::Windows1254;
     // Turkish programs name the Western character set and write Turkish letters. The two pages differ in
-    // little more than those six, whose places in the Western one hold Icelandic letters.
-    if (kod == KodSayfası::Windows1252 && belgeKodu_ == KodSayfası::Windows1254)
-        return belgeKodu_;
-    return kod;
+    // little more than those six, whose places in the Western one hold Icelandic letters. And what writes
+    // UTF-8 has to name some set.
+    const bool belgeninki = (batı && belgenin == KodSayfası::Windows1254) ||
+                            ((batı || türkçe) && belgenin == KodSayfası::Utf8 && utf8Varsayılan_);
+    return belgeninki ? belgenin : kod;
 }
 
 const KodSayfası& RtfBaşlığı::KodSayfasıBul(int yer)

@@ -4,6 +4,7 @@
 #include "controls/BiçimliMetin.h"
 #include "controls/KodSayfası.h"
 #include "controls/RtfTabloları.h"
+#include "controls/SimgeYazıTipleri.h"
 
 #include <QHash>
 
@@ -16,6 +17,8 @@
 class RtfBaşlığı
 {
 public:
+    /// The document is in UTF-8, and names no other code page.
+    void Utf8Varsay() { utf8Varsayılan_ = true; }
     /// A word that belongs to the head.
     /// @param tabloda within the font table
     void Sözcük(const RtfTanımı& tanım, int değer, bool tabloda);
@@ -29,10 +32,16 @@ public:
 
     /// Place of a font; -1 when there is none of this number.
     int YazıTipiYeri(int no) const { return yerler_.value(no, -1); }
-    /// Family; empty for the default font.
-    QString YazıTipiAdı(int yer) const { return yer < 0 ? QString() : yazıTipi(yer).ad; }
+    /// Family; empty for the default font, and for a symbol font whose signs are known: it has nothing for
+    /// their Unicode characters.
+    QString YazıTipiAdı(int yer) const
+    {
+        return yer < 0 || yazıTipi(yer).simgeler ? QString() : yazıTipi(yer).ad;
+    }
     /// Whether the font holds signs in place of letters.
     bool Simgesel(int yer) const;
+    /// Its signs; nullptr for a font of letters, or of signs that aren't known.
+    const SimgeTablosu* Simgeler(int yer) const;
     const KodSayfası& KodSayfasıBul(int yer);
 
     /// A colour of the table ends here.
@@ -45,11 +54,14 @@ private:
     {
         QString ad;
         int kodSayfası = RtfKodSayfası::Belgenin;
+        const SimgeTablosu* simgeler = nullptr; // by name
         bool adBitti = false;
     };
 
     YazıTipi& yazıTipi(int yer) { return yazıTipleri_[static_cast<std::size_t>(yer)]; }
     const YazıTipi& yazıTipi(int yer) const { return yazıTipleri_[static_cast<std::size_t>(yer)]; }
+    const YazıTipi* asıl(int yer) const;
+    int belgeninKodu() const;
     int kodu(int yer) const;
 
     std::vector<YazıTipi> yazıTipleri_;
@@ -63,4 +75,5 @@ private:
 
     std::map<int, KodSayfası> sayfalar_; // those opened so far
     int belgeKodu_ = KodSayfası::Windows1252;
+    bool utf8Varsayılan_ = false;
 };

@@ -45,6 +45,7 @@ void RtfDurumu::Biçimle(const RtfTanımı& tanım, const RtfSözcüğü& söz, 
         break;
     case RtfEylemi::ParagrafBiçimiSıfırla:
         Tabloda = false;
+        Madde = -1;
         break;
     case RtfEylemi::Tabloda:
         Tabloda = açık;

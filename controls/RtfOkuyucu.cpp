@@ -1,20 +1,26 @@
 #include "controls/RtfOkuyucu.h"
 
+#include "controls/RtfAlanı.h"
 #include "controls/RtfBaşlığı.h"
 #include "controls/RtfDurumu.h"
+#include "controls/RtfHarfleri.h"
+#include "controls/RtfMaddeleri.h"
+#include "controls/RtfSatırı.h"
 #include "controls/RtfSözcükleri.h"
 #include "controls/RtfTabloları.h"
 #include "controls/RtfÇıktısı.h"
+#include "controls/RtfÖnBakış.h"
+#include "controls/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 #include <vector>
 
 namespace {
 
-constexpr int EnDerinGrup = 1000; // word processors stay below a hundred
+constexpr int EnDerinGrup = 10'000; // word processors stay below a hundred
 constexpr int EnUzunYedek = 255;
+constexpr int EnUzunKomut = 128;                       // the one for a sign is shorter
 constexpr qsizetype EnBüyükBelge = qsizetype(1) << 30; // the text's positions are ints
 constexpr QByteArrayView İmza("{\\rtf");
 
@@ -35,7 +41,15 @@ qsizetype imzaYeri(QByteArrayView baytlar)
 class Okuyucu
 {
 public:
-    explicit Okuyucu(QByteArrayView belge) : sözcükler_(belge) {}
+    explicit Okuyucu(QByteArrayView belge)
+        : sözcükler_(belge), harfler_(başlık_, [this](char16_t h) { harf(h); })
+    {
+        const RtfKodlaması kodlama = RtfKodlamasıBul(belge);
+        if (kodlama.KaçışlıUtf8)
+            başlık_.Utf8Varsay();
+        if (kodlama.HamUtf8)
+            harfler_.HamUtf8Varsay();
+    }
 
     BiçimliMetin oku();
 
@@ -43,38 +57,46 @@ private:
     bool işle(const RtfSözcüğü& söz); // false at the document's end
     void grupAç();
     void grupKapat();
+    void grupSonu(const RtfDurumu& biten);
+    bool sürüyor();
+    bool kapanmamışHedef() const;
     void sözcük(const RtfSözcüğü& söz);
     void yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz);
+    void yeniSatır(RtfEylemi eylem);
     void biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz);
     void başlık(const RtfTanımı& tanım, int değer);
-    void hedef(RtfEylemi eylem);
+    void hedef(const RtfTanımı& tanım);
+    void içMetin(RtfKapanışı kapanış);
     void simge(int işaret);
     void unicode(int değer);
     void düz(std::string_view baytlar);
-    void bayt(unsigned char bayt);
-    void çokBaytlı(unsigned char bayt);
-    void yarımHarf();
+    void yedeğiAtla(std::string_view& baytlar);
     void harf(char16_t harf);
     void biçimiBildir();
+    void paragrafBaşı();
 
     // Place of the font that letters are in.
     int yazıTipi() const
     {
         return durum_.Hedef == RtfHedefi::YazıTipleri ? başlık_.YazılanYazıTipi() : durum_.YazıTipi;
     }
-    const KodSayfası& kodSayfası();
+    RtfSatırı& satır() { return durum_.İçMetin ? içSatır_ : satır_; }
 
     RtfSözcükleri sözcükler_;
     RtfÇıktısı çıktı_;
     RtfDurumu durum_;
     std::vector<RtfDurumu> dıştakiler_; // states of the groups around
+    int fazlaGrup_ = 0;                 // groups that are too deep to have a state
+    bool devamında_ = false;            // behind a brace that seemed to end the document
     bool biçimEski_ = false;
     int atlanacak_ = 0; // characters that only stand in for a Unicode one
 
     RtfBaşlığı başlık_;
-    const KodSayfası* kodSayfası_ = nullptr; // of the present font; unknown until asked for
-    std::array<char, 4> yarım_{};            // a letter's first bytes
-    std::size_t yarımBoyu_ = 0;
+    RtfHarfleri harfler_;
+    RtfSatırı satır_;
+    RtfSatırı içSatır_; // of a table in a footnote or a text box, or within a cell
+    RtfMaddeleri maddeler_;
+    QString alanKomutu_;
 };
 
 BiçimliMetin Okuyucu::oku()
@@ -86,13 +108,12 @@ BiçimliMetin Okuyucu::oku()
 
 bool Okuyucu::işle(const RtfSözcüğü& söz)
 {
-    const bool yazı = söz.Tür == RtfTürü::Düz || söz.Tür == RtfTürü::Bayt;
-    if (yarımBoyu_ > 0 && !yazı)
-        yarımHarf();
     switch (söz.Tür) {
     case RtfTürü::Son:
+        harfler_.Kes();
         if (çıktı_.Boş() && durum_.Hedef != RtfHedefi::Metin)
             bozuk();
+        fazlaGrup_ = 0;
         while (!dıştakiler_.empty())
             grupKapat();
         return false;
@@ -101,7 +122,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
         return true;
     case RtfTürü::GrupSonu:
         grupKapat();
-        return !dıştakiler_.empty();
+        return !dıştakiler_.empty() || sürüyor();
     case RtfTürü::Sözcük:
         sözcük(söz);
         return true;
@@ -113,22 +134,25 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
         break;
     }
     durum_.Yeni = false;
-    if (durum_.Hedef == RtfHedefi::Atlanan)
+    if (durum_.Atlanıyor())
         return true;
+    harfler_.YazıTipi(yazıTipi());
     if (söz.Tür == RtfTürü::Düz)
         düz(söz.Ad);
     else if (atlanacak_ > 0)
         --atlanacak_;
     else
-        bayt(static_cast<unsigned char>(söz.Değer));
+        harfler_.Bayt(static_cast<unsigned char>(söz.Değer), RtfHarfleri::Yazılış::Kaçışlı);
     return true;
 }
 
 void Okuyucu::grupAç()
 {
-    if (dıştakiler_.size() >= EnDerinGrup)
-        bozuk();
     durum_.Yeni = false;
+    if (dıştakiler_.size() >= EnDerinGrup) {
+        ++fazlaGrup_;
+        return;
+    }
     dıştakiler_.push_back(durum_);
     durum_ = durum_.İçGrup();
     atlanacak_ = 0;
@@ -136,39 +160,95 @@ void Okuyucu::grupAç()
 
 void Okuyucu::grupKapat()
 {
-    if (durum_.Kapanış == RtfKapanışı::Dipnot)
-        çıktı_.DipnotSonu();
-    else if (durum_.Kapanış == RtfKapanışı::Kutu)
-        çıktı_.SatırBaşı();
-    durum_ = dıştakiler_.back();
+    if (dıştakiler_.empty())
+        return;
+    if (fazlaGrup_ > 0) {
+        --fazlaGrup_;
+        return;
+    }
+    if (durum_.Kapanış != RtfKapanışı::Yok || dıştakiler_.size() == 1)
+        harfler_.Kes();
+    if (durum_.Kapanış == RtfKapanışı::Alan && çıktı_.Boy() == durum_.AlanBaşı)
+        harf(durum_.AlanSimgesi);
+    const RtfDurumu biten = std::exchange(durum_, dıştakiler_.back());
     dıştakiler_.pop_back();
+    grupSonu(biten);
     atlanacak_ = 0;
     biçimEski_ = true;
-    kodSayfası_ = nullptr;
+}
+
+void Okuyucu::grupSonu(const RtfDurumu& biten)
+{
+    switch (biten.Kapanış) {
+    case RtfKapanışı::Dipnot:
+        çıktı_.DipnotSonu();
+        çıktı_.ListeMetniVar(biten.ListeMetniVardı);
+        break;
+    case RtfKapanışı::Kutu:
+        çıktı_.SatırBaşı();
+        çıktı_.ListeMetniVar(biten.ListeMetniVardı);
+        break;
+    case RtfKapanışı::AlanKomutu:
+        durum_.AlanSimgesi = RtfAlanSimgesi(alanKomutu_);
+        break;
+    case RtfKapanışı::Madde:
+        durum_.Madde = maddeler_.Bitir();
+        if (durum_.Madde >= 0 && çıktı_.ListeMetniVar())
+            maddeler_.Say(durum_.Madde);
+        break;
+    case RtfKapanışı::Yok:
+    case RtfKapanışı::Alan:
+        break;
+    }
+}
+
+// Whether the document goes on behind the brace of its first group.
+bool Okuyucu::sürüyor()
+{
+    if (devamında_)
+        return true;
+    const QByteArrayView devam = RtfDevamı(sözcükler_.Kalan());
+    sözcükler_ = RtfSözcükleri(devam);
+    devamında_ = !devam.isEmpty();
+    return devamında_;
+}
+
+// Whether this is a destination's own group, and one that can't hold paragraphs.
+bool Okuyucu::kapanmamışHedef() const
+{
+    return (durum_.Hedef == RtfHedefi::Atlanan || durum_.Hedef == RtfHedefi::YazıTipleri ||
+            durum_.Hedef == RtfHedefi::Renkler) &&
+           !dıştakiler_.empty() && dıştakiler_.back().Hedef == RtfHedefi::Metin;
 }
 
 void Okuyucu::sözcük(const RtfSözcüğü& söz)
 {
-    if (durum_.Hedef == RtfHedefi::Atlanan) { // only raw bytes could be taken for something else
-        if (söz.Ad == "bin" && !sözcükler_.Atla(std::max(söz.Değer, 0)))
-            bozuk();
+    if (söz.Ad == "pard" && kapanmamışHedef()) // its brace is missing; the text would be lost
+        durum_.Hedef = RtfHedefi::Metin;
+    if (durum_.Atlanıyor()) { // only raw bytes could be taken for something else
+        if (söz.Ad == "bin")
+            sözcükler_.İkiliAtla(söz.Değer);
         return;
     }
     const RtfTanımı* tanım = RtfTanımıBul(söz.Ad);
     const bool yıldızlı = std::exchange(durum_.Yıldızlı, false);
     const bool başta = std::exchange(durum_.Yeni, false);
-    if (tanım && tanım->Eylem == RtfEylemi::İkili && !sözcükler_.Atla(std::max(söz.Değer, 0)))
-        bozuk();
+    const bool ikili = tanım && tanım->Eylem == RtfEylemi::İkili;
+    if (ikili)
+        sözcükler_.İkiliAtla(söz.Değer);
     if (atlanacak_ > 0) {
-        --atlanacak_;
-        return;
+        if (ikili || (tanım && tanım->Eylem == RtfEylemi::Harf)) {
+            --atlanacak_;
+            return;
+        }
+        atlanacak_ = 0; // no word processor lets other words stand in; some forget the character
     }
     if (tanım && HedefMi(tanım->Eylem)) {
         // Amid the document's own group a destination would swallow the rest.
         if (başta || dıştakiler_.size() > 1)
-            hedef(tanım->Eylem);
+            hedef(*tanım);
     } else if (yıldızlı) {
-        durum_.Hedef = RtfHedefi::Atlanan;
+        durum_.Hedef = RtfHedefi::AtlananMetin;
     } else if (tanım && tanım->Eylem <= RtfEylemi::Unicode) {
         yapı(*tanım, söz);
     } else if (tanım && tanım->Eylem <= RtfEylemi::TabloDerinliği) {
@@ -191,27 +271,52 @@ void Okuyucu::yapı(const RtfTanımı& tanım, const RtfSözcüğü& söz)
     }
     if (durum_.Hedef != RtfHedefi::Metin)
         return;
+    harfler_.Kes();
     switch (tanım.Eylem) {
+    case RtfEylemi::SatırTanımı:
+        satır().Tanımla();
+        break;
+    case RtfEylemi::HücreTanımı:
+        satır().HücreTanımla();
+        break;
+    case RtfEylemi::BirleşikHücre:
+        satır().Birleştir();
+        break;
     case RtfEylemi::Hücre:
+        biçimiBildir();
+        if (satır().HücreBitir() == RtfSatırı::Sonraki::Sürer)
+            çıktı_.YeniSatır(true);
+        else
+            çıktı_.Hücre();
+        break;
+    case RtfEylemi::İçHücre:
         biçimiBildir();
         çıktı_.Hücre();
         break;
     case RtfEylemi::Satır:
+        satır().Bitir();
+        [[fallthrough]];
     case RtfEylemi::İçSatır:
         biçimiBildir();
         çıktı_.TabloSatırı(tanım.Eylem == RtfEylemi::İçSatır);
         break;
     default:
-        if (durum_.Yazılıyor()) {
-            biçimiBildir();
-            çıktı_.YeniSatır(durum_.Tabloda);
-        }
+        if (durum_.Yazılıyor())
+            yeniSatır(tanım.Eylem);
     }
+}
+
+void Okuyucu::yeniSatır(RtfEylemi eylem)
+{
+    biçimiBildir();
+    const bool listeMetniVar = çıktı_.ListeMetniVar();
+    çıktı_.YeniSatır(durum_.Tabloda);
+    if (eylem == RtfEylemi::YeniSatır) // the item goes on
+        çıktı_.ListeMetniVar(listeMetniVar);
 }
 
 void Okuyucu::biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz)
 {
-    kodSayfası_ = nullptr;
     if (tanım.Eylem == RtfEylemi::YazıTipi && durum_.Hedef == RtfHedefi::YazıTipleri) {
         başlık_.YazıTipiBaşı(söz.Değer);
         return;
@@ -222,19 +327,23 @@ void Okuyucu::biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz)
 
 void Okuyucu::başlık(const RtfTanımı& tanım, int değer)
 {
-    kodSayfası_ = nullptr;
     if (tanım.Eylem == RtfEylemi::YedekBoyu)
         durum_.YedekBoyu = static_cast<quint8>(std::clamp(değer, 0, EnUzunYedek));
-    else
+    else if (durum_.Hedef == RtfHedefi::Madde)
+        maddeler_.Sözcük(tanım, değer);
+    else {
         başlık_.Sözcük(tanım, değer, durum_.Hedef == RtfHedefi::YazıTipleri);
+        harfler_.Unut();
+    }
 }
 
-void Okuyucu::hedef(RtfEylemi eylem)
+void Okuyucu::hedef(const RtfTanımı& tanım)
 {
+    const RtfEylemi eylem = tanım.Eylem;
     const bool iskelette = durum_.Hedef == RtfHedefi::İskelet;
     switch (eylem) {
     case RtfEylemi::Atlanan:
-        durum_.Hedef = RtfHedefi::Atlanan;
+        durum_.Hedef = tanım.Değer == RtfAtlanan::Paragraflı ? RtfHedefi::AtlananMetin : RtfHedefi::Atlanan;
         break;
     case RtfEylemi::İskelet:
         if (!iskelette)
@@ -246,18 +355,53 @@ void Okuyucu::hedef(RtfEylemi eylem)
             durum_.Hedef = durum_.İskelettekiHedef;
         if (eylem == RtfEylemi::MetinKutusu && durum_.Hedef == RtfHedefi::Metin) {
             çıktı_.SatırBaşı();
-            durum_.Kapanış = RtfKapanışı::Kutu;
+            içMetin(RtfKapanışı::Kutu);
         }
+        break;
+    case RtfEylemi::İçTabloTanımı:
+        durum_.İçMetin = true;
         break;
     case RtfEylemi::Dipnot:
         if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
-            çıktı_.DipnotBaşı();
-            durum_.Kapanış = RtfKapanışı::Dipnot;
+            çıktı_.DipnotBaşı(durum_.Tabloda);
+            içMetin(RtfKapanışı::Dipnot);
         }
         break;
     case RtfEylemi::ListeMetni:
-        if (durum_.Hedef == RtfHedefi::Metin && !çıktı_.ListeMetniGerek())
+        if (durum_.Hedef != RtfHedefi::Metin)
+            break;
+        if (!çıktı_.ListeMetniGerek())
             durum_.Hedef = RtfHedefi::Atlanan;
+        else if (durum_.Madde >= 0)
+            maddeler_.Say(durum_.Madde);
+        break;
+    case RtfEylemi::Madde:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            durum_.Hedef = RtfHedefi::Madde;
+            durum_.Kapanış = RtfKapanışı::Madde;
+            maddeler_.Başla();
+        }
+        break;
+    case RtfEylemi::MaddeÖnü:
+    case RtfEylemi::MaddeArdı:
+        if (durum_.Hedef == RtfHedefi::Madde)
+            durum_.Hedef = eylem == RtfEylemi::MaddeÖnü ? RtfHedefi::MaddeÖnü : RtfHedefi::MaddeArdı;
+        else if (durum_.Hedef == RtfHedefi::Metin)
+            durum_.Hedef = RtfHedefi::Atlanan;
+        break;
+    case RtfEylemi::Alan:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            durum_.Kapanış = RtfKapanışı::Alan;
+            durum_.AlanBaşı = çıktı_.Boy();
+            durum_.AlanSimgesi = 0;
+        }
+        break;
+    case RtfEylemi::AlanKomutu:
+        if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
+            durum_.Kapanış = RtfKapanışı::AlanKomutu;
+            alanKomutu_.clear();
+        }
+        durum_.Hedef = RtfHedefi::AlanKomutu;
         break;
     case RtfEylemi::YazıTipleri:
     case RtfEylemi::Renkler:
@@ -266,7 +410,15 @@ void Okuyucu::hedef(RtfEylemi eylem)
     default: // text as before
         break;
     }
-    kodSayfası_ = nullptr;
+}
+
+// Text with paragraphs of its own amid a paragraph.
+void Okuyucu::içMetin(RtfKapanışı kapanış)
+{
+    durum_.Kapanış = kapanış;
+    durum_.İçMetin = true;
+    durum_.ListeMetniVardı = çıktı_.ListeMetniVar();
+    çıktı_.ListeMetniVar(false);
 }
 
 void Okuyucu::simge(int işaret)
@@ -292,88 +444,49 @@ void Okuyucu::unicode(int değer)
     } else if (kod > 0xFFFF) {
         harf(QChar::highSurrogate(static_cast<char32_t>(kod)));
         harf(QChar::lowSurrogate(static_cast<char32_t>(kod)));
-    } else if ((kod & 0xFF00) == 0xF000 && başlık_.Simgesel(yazıTipi())) {
-        // So symbol fonts have their bytes in Unicode.
-        bayt(static_cast<unsigned char>(kod & 0xFF));
     } else {
-        harf(static_cast<char16_t>(kod));
+        harfler_.YazıTipi(yazıTipi());
+        harfler_.Unicode(static_cast<char16_t>(kod));
     }
     atlanacak_ = durum_.YedekBoyu;
 }
 
+// Passes over characters that stand in for one of Unicode.
+void Okuyucu::yedeğiAtla(std::string_view& baytlar)
+{
+    for (; atlanacak_ > 0 && !baytlar.empty(); --atlanacak_) {
+        const QByteArrayView kalan(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+        baytlar.remove_prefix(harfler_.HamUtf8() ? static_cast<std::size_t>(Utf8İlk(kalan).Boy) : 1);
+    }
+}
+
 void Okuyucu::düz(std::string_view baytlar)
 {
-    const std::size_t atlanan = std::min(static_cast<std::size_t>(atlanacak_), baytlar.size());
-    atlanacak_ -= static_cast<int>(atlanan);
-    baytlar.remove_prefix(atlanan);
+    yedeğiAtla(baytlar);
     const auto ascii = [](char bayt) { return static_cast<unsigned char>(bayt) < 0x80; };
     while (!baytlar.empty()) {
-        if (yarımBoyu_ > 0 || !durum_.Yazılıyor() || !ascii(baytlar.front())) {
-            bayt(static_cast<unsigned char>(baytlar.front()));
+        if (!durum_.Yazılıyor() || !ascii(baytlar.front()) || !harfler_.Ascii()) {
+            harfler_.Bayt(static_cast<unsigned char>(baytlar.front()), RtfHarfleri::Yazılış::Ham);
             baytlar.remove_prefix(1);
             continue;
         }
         const auto son = std::find_if_not(baytlar.begin(), baytlar.end(), ascii);
         const auto boy = static_cast<std::size_t>(son - baytlar.begin());
         biçimiBildir();
+        paragrafBaşı();
         çıktı_.Dizi(baytlar.substr(0, boy));
         baytlar.remove_prefix(boy);
     }
 }
 
-void Okuyucu::bayt(unsigned char bayt)
-{
-    if (yarımBoyu_ > 0) {
-        çokBaytlı(bayt);
-        return;
-    }
-    if (bayt < 0x80) {
-        harf(bayt);
-        return;
-    }
-    // The bullets of the usual symbol fonts.
-    if ((bayt == 0xB7 || bayt == 0xA7) && başlık_.Simgesel(yazıTipi())) {
-        harf(bayt == 0xB7 ? 0x2022 : 0x25AA);
-        return;
-    }
-    const KodSayfası& sayfa = kodSayfası();
-    if (sayfa.Boy(bayt) == 1)
-        harf(sayfa.Harf(bayt));
-    else
-        yarım_[yarımBoyu_++] = static_cast<char>(bayt);
-}
-
-void Okuyucu::çokBaytlı(unsigned char bayt)
-{
-    const KodSayfası& sayfa = kodSayfası();
-    yarım_[yarımBoyu_++] = static_cast<char>(bayt);
-    if (yarımBoyu_ < static_cast<std::size_t>(sayfa.Boy(static_cast<unsigned char>(yarım_[0]))))
-        return;
-    const QString harfler = sayfa.Harf({yarım_.data(), yarımBoyu_});
-    const auto baytlar = yarım_;
-    const std::size_t boy = std::exchange(yarımBoyu_, 0);
-    if (harfler.isEmpty()) { // those behind the first may be letters of their own
-        yarımHarf();
-        for (std::size_t i = 1; i < boy; ++i)
-            this->bayt(static_cast<unsigned char>(baytlar[i]));
-    }
-    for (const QChar h : harfler)
-        harf(h.unicode());
-}
-
-// A letter of several bytes breaks off.
-void Okuyucu::yarımHarf()
-{
-    yarımBoyu_ = 0;
-    harf(QChar::ReplacementCharacter);
-}
-
 void Okuyucu::harf(char16_t harf)
 {
+    harfler_.Kes();
     switch (durum_.Hedef) {
     case RtfHedefi::Metin:
         if (durum_.Yazılıyor() && harf != 0) {
             biçimiBildir();
+            paragrafBaşı();
             çıktı_.Harf(harf);
         }
         break;
@@ -384,8 +497,20 @@ void Okuyucu::harf(char16_t harf)
         if (harf == u';')
             başlık_.RenkSonu();
         break;
+    case RtfHedefi::AlanKomutu:
+        if (alanKomutu_.size() < EnUzunKomut)
+            alanKomutu_ += QChar(harf);
+        break;
+    case RtfHedefi::MaddeÖnü:
+        maddeler_.Harf(RtfEylemi::MaddeÖnü, harf);
+        break;
+    case RtfHedefi::MaddeArdı:
+        maddeler_.Harf(RtfEylemi::MaddeArdı, harf);
+        break;
     case RtfHedefi::Atlanan:
+    case RtfHedefi::AtlananMetin:
     case RtfHedefi::İskelet:
+    case RtfHedefi::Madde:
         break;
     }
 }
@@ -396,11 +521,16 @@ void Okuyucu::biçimiBildir()
         çıktı_.Biçimle(durum_.Biçim(başlık_));
 }
 
-const KodSayfası& Okuyucu::kodSayfası()
+// Before each letter: the first one of an item stands behind its number or bullet.
+void Okuyucu::paragrafBaşı()
 {
-    if (!kodSayfası_)
-        kodSayfası_ = &başlık_.KodSayfasıBul(yazıTipi());
-    return *kodSayfası_;
+    if (durum_.İçMetin)
+        return;
+    if (durum_.Madde < 0)
+        maddeler_.Kes();
+    else if (çıktı_.ListeMetniGerek())
+        for (const QChar h : maddeler_.Say(durum_.Madde))
+            çıktı_.Harf(h.unicode());
 }
 
 } // namespace

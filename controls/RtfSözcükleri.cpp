@@ -61,12 +61,13 @@ RtfSözcüğü RtfSözcükleri::Sonraki()
     return {};
 }
 
-bool RtfSözcükleri::Atla(int boy)
+void RtfSözcükleri::İkiliAtla(int boy)
 {
-    if (boy > son_ - yer_)
-        return false;
-    yer_ += boy;
-    return true;
+    if (boy <= 0 || boy > son_ - yer_)
+        return;
+    const char* arkası = yer_ + boy;
+    if (arkası == son_ || QByteArrayView("{}\\\r\n").contains(*arkası))
+        yer_ = arkası;
 }
 
 // What stands behind a backslash.

@@ -32,8 +32,10 @@ public:
     explicit RtfSözcükleri(QByteArrayView belge) : yer_(belge.data()), son_(belge.data() + belge.size()) {}
 
     RtfSözcüğü Sonraki();
-    /// Passes over raw bytes; false when there are fewer.
-    bool Atla(int boy);
+    /// Passes over raw bytes; over none where what would follow them shows that their number is wrong.
+    void İkiliAtla(int boy);
+    /// What was not handed out yet.
+    QByteArrayView Kalan() const { return {yer_, son_}; }
 
 private:
     RtfSözcüğü ters();

@@ -11,8 +11,7 @@ using E = RtfEylemi;
 constexpr std::size_t EnUzunSözcük = 32; // the format's own limit
 
 // Unknown destinations that may be ignored are marked so in the document; here stand those that are not.
-constexpr std::string_view AtlananHedefler[] = {"annotation",
-                                                "atnauthor",
+constexpr std::string_view AtlananHedefler[] = {"atnauthor",
                                                 "atndate",
                                                 "atnicn",
                                                 "atnid",
@@ -34,27 +33,12 @@ constexpr std::string_view AtlananHedefler[] = {"annotation",
                                                 "factoidname",
                                                 "falt",
                                                 "filetbl",
-                                                "fldinst",
                                                 "fldtype",
                                                 "fname",
                                                 "fontemb",
                                                 "fontfile",
-                                                "footer",
-                                                "footerf",
-                                                "footerl",
-                                                "footerr",
                                                 "formfield",
-                                                "ftncn",
-                                                "ftnsep",
-                                                "ftnsepc",
-                                                "aftncn",
-                                                "aftnsep",
-                                                "aftnsepc",
                                                 "generator",
-                                                "header",
-                                                "headerf",
-                                                "headerl",
-                                                "headerr",
                                                 "hlinkbase",
                                                 "info",
                                                 "keycode",
@@ -64,7 +48,6 @@ constexpr std::string_view AtlananHedefler[] = {"annotation",
                                                 "listoverridetable",
                                                 "listtable",
                                                 "manager",
-                                                "nonesttables",
                                                 "nonshppict",
                                                 "objalias",
                                                 "objclass",
@@ -76,17 +59,15 @@ constexpr std::string_view AtlananHedefler[] = {"annotation",
                                                 "panose",
                                                 "pgptbl",
                                                 "pict",
-                                                "pn",
+
                                                 "pnseclvl",
-                                                "pntxta",
-                                                "pntxtb",
+
                                                 "printim",
                                                 "private",
                                                 "revtbl",
                                                 "revtim",
                                                 "rsidtbl",
                                                 "rxe",
-                                                "shprslt",
                                                 "staticval",
                                                 "stylesheet",
                                                 "subject",
@@ -104,6 +85,11 @@ constexpr std::string_view AtlananHedefler[] = {"annotation",
                                                 "xmlattrvalue",
                                                 "xmlnstbl"};
 
+// Those of them that may hold paragraphs.
+constexpr std::string_view AtlananMetinler[] = {
+    "aftncn", "aftnsep", "aftnsepc", "annotation", "footer",  "footerf", "footerl",      "footerr", "ftncn",
+    "ftnsep", "ftnsepc", "header",   "headerf",    "headerl", "headerr", "nonesttables", "shprslt"};
+
 constexpr std::string_view AltÇizgiler[] = {
     "ul",   "uld",   "uldash",   "uldashd",   "uldashdd",   "uldb",      "ulhair",     "ulhwave", "ulldash",
     "ulth", "ulthd", "ulthdash", "ulthdashd", "ulthdashdd", "ulthldash", "ululdbwave", "ulw",     "ulwave"};
@@ -113,6 +99,11 @@ struct Satır
     std::string_view ad;
     RtfTanımı tanım;
 };
+
+constexpr int tür(RtfMaddeTürü tür)
+{
+    return static_cast<int>(tür);
+}
 
 constexpr Satır Diğerleri[] = {
     {"tab", {E::Harf, u'\t'}},
@@ -132,14 +123,17 @@ constexpr Satır Diğerleri[] = {
     {"zwj", {E::Harf, 0x200D}},
     {"ltrmark", {E::Harf, 0x200E}},
     {"rtlmark", {E::Harf, 0x200F}},
-    {"par", {E::YeniSatır}},
+    {"par", {E::Paragraf}},
     {"line", {E::YeniSatır}},
     {"lbr", {E::YeniSatır}},
     {"page", {E::YeniSatır}},
-    {"sect", {E::YeniSatır}},
+    {"sect", {E::Paragraf}},
     {"column", {E::YeniSatır}},
     {"cell", {E::Hücre}},
-    {"nestcell", {E::Hücre}},
+    {"nestcell", {E::İçHücre}},
+    {"trowd", {E::SatırTanımı}},
+    {"cellx", {E::HücreTanımı}},
+    {"clmrg", {E::BirleşikHücre}},
     {"row", {E::Satır}},
     {"nestrow", {E::İçSatır}},
     {"u", {E::Unicode}},
@@ -151,6 +145,7 @@ constexpr Satır Diğerleri[] = {
     {"deleted", {E::Bayrak, RtfBayrağı::Silinmiş}},
     {"ulnone", {E::BayrakSil, RtfBayrağı::AltıÇizili}},
     {"f", {E::YazıTipi}},
+    {"pnf", {E::YazıTipi}},
     {"fs", {E::Boy}},
     {"cf", {E::Renk}},
     {"plain", {E::HarfBiçimiSıfırla}},
@@ -165,14 +160,25 @@ constexpr Satır Diğerleri[] = {
     {"deff", {E::VarsayılanYazıTipi}},
     {"fcharset", {E::KarakterKümesi}},
     {"cpg", {E::YazıTipiKodSayfası}},
+    {"pnlvl", {E::MaddeDüzeyi}},
+    {"pnlvlbody", {E::MaddeTürü, tür(RtfMaddeTürü::Sayı)}},
+    {"pnlvlblt", {E::MaddeTürü, tür(RtfMaddeTürü::İmli)}},
+    {"pndec", {E::MaddeTürü, tür(RtfMaddeTürü::Sayı)}},
+    {"pnucltr", {E::MaddeTürü, tür(RtfMaddeTürü::BüyükHarf)}},
+    {"pnlcltr", {E::MaddeTürü, tür(RtfMaddeTürü::KüçükHarf)}},
+    {"pnucrm", {E::MaddeTürü, tür(RtfMaddeTürü::BüyükRoma)}},
+    {"pnlcrm", {E::MaddeTürü, tür(RtfMaddeTürü::KüçükRoma)}},
+    {"pnstart", {E::MaddeBaşlangıcı}},
     {"red", {E::RenkBileşeni, 0}},
     {"green", {E::RenkBileşeni, 1}},
     {"blue", {E::RenkBileşeni, 2}},
     {"uc", {E::YedekBoyu}},
     {"bin", {E::İkili}},
+    {"field", {E::Alan}},
+    {"fldinst", {E::AlanKomutu}},
     {"fldrslt", {E::MetinHedefi}},
     {"result", {E::MetinHedefi}},
-    {"nesttableprops", {E::MetinHedefi}},
+    {"nesttableprops", {E::İçTabloTanımı}},
     {"upr", {E::İskelet}},
     {"shpinst", {E::İskelet}},
     {"do", {E::İskelet}},
@@ -182,6 +188,9 @@ constexpr Satır Diğerleri[] = {
     {"footnote", {E::Dipnot}},
     {"listtext", {E::ListeMetni}},
     {"pntext", {E::ListeMetni}},
+    {"pn", {E::Madde}},
+    {"pntxtb", {E::MaddeÖnü}},
+    {"pntxta", {E::MaddeArdı}},
     {"fonttbl", {E::YazıTipleri}},
     {"colortbl", {E::Renkler}},
 };
@@ -192,7 +201,9 @@ Tablo tabloKur()
 {
     Tablo tablo;
     for (const std::string_view ad : AtlananHedefler)
-        tablo.insert({ad, {E::Atlanan}});
+        tablo.insert({ad, {E::Atlanan, RtfAtlanan::Paragrafsız}});
+    for (const std::string_view ad : AtlananMetinler)
+        tablo.insert({ad, {E::Atlanan, RtfAtlanan::Paragraflı}});
     for (const std::string_view ad : AltÇizgiler)
         tablo.insert({ad, {E::Bayrak, RtfBayrağı::AltıÇizili}});
     for (const Satır& satır : Diğerleri)

@@ -9,11 +9,16 @@
 enum class RtfEylemi : quint8
 {
     // Letters and structure; these give text.
-    Harf,      ///< the value is a UTF-16 unit
-    YeniSatır, ///< end of a paragraph, line, column, page or section
-    Hücre,     ///< end of a table cell
-    Satır,     ///< end of a table row
-    İçSatır,   ///< the same in a table within a cell
+    Harf,          ///< the value is a UTF-16 unit
+    Paragraf,      ///< end of a paragraph or section
+    YeniSatır,     ///< end of a line, column or page
+    SatırTanımı,   ///< begins the description of a table row's cells
+    HücreTanımı,   ///< a cell ends in it
+    BirleşikHücre, ///< that cell continues the one before
+    Hücre,         ///< end of a table cell
+    İçHücre,       ///< the same in a table within a cell
+    Satır,         ///< end of a table row
+    İçSatır,       ///< the same in a table within a cell
     Unicode,
     // Formats.
     Bayrak,    ///< sets a bit of RtfBayrağı, or clears it where the number is 0
@@ -31,18 +36,27 @@ enum class RtfEylemi : quint8
     VarsayılanYazıTipi,
     KarakterKümesi,
     YazıTipiKodSayfası,
+    MaddeTürü, ///< the value is of RtfMaddeTürü
+    MaddeDüzeyi,
+    MaddeBaşlangıcı,
     RenkBileşeni, ///< the value is 0 for red, 1 for green, 2 for blue
                   // Bytes.
     YedekBoyu,    ///< how many characters stand in for a Unicode one
     İkili,
     // Destinations, from here on.
-    Atlanan,
-    MetinHedefi,  ///< as if it were no destination
-    İskelet,      ///< holds text only deeper inside
-    İskeletMetni, ///< the text in one
-    MetinKutusu,  ///< the same, on lines of its own
+    Atlanan,       ///< the value is of RtfAtlanan
+    MetinHedefi,   ///< as if it were no destination
+    İskelet,       ///< holds text only deeper inside
+    İskeletMetni,  ///< the text in one
+    İçTabloTanımı, ///< as if it were no destination; describes a table within a cell
+    MetinKutusu,   ///< the same, on lines of its own
     Dipnot,
     ListeMetni,
+    Madde,     ///< describes the items of a list
+    MaddeÖnü,  ///< text before the number
+    MaddeArdı, ///< text behind it
+    Alan,
+    AlanKomutu,
     YazıTipleri,
     Renkler,
 };
@@ -62,6 +76,28 @@ struct RtfBayrağı
         ÜstüÇizili = 8,
         Gizli = 16,
         Silinmiş = 32
+    };
+};
+
+/// What stands before a list's items.
+enum class RtfMaddeTürü : quint8
+{
+    Yok,
+    İmli, ///< a bullet
+    Sayı,
+    BüyükHarf,
+    KüçükHarf,
+    BüyükRoma,
+    KüçükRoma
+};
+
+/// What a dropped destination may hold.
+struct RtfAtlanan
+{
+    enum : int
+    {
+        Paragrafsız,
+        Paragraflı
     };
 };
 

@@ -92,6 +92,12 @@ void RtfÇıktısı::satırBitir()
 
 void RtfÇıktısı::Hücre()
 {
+    if (bekleyenDipnot_ > 0)
+        return;
+    if (dipnot_ > 0 && satırdaDipnot_) {
+        YeniSatır(true);
+        return;
+    }
     if (bekleyen_ == u'\t')
         bekleyenleriYaz(); // an empty cell
     bekleyen_ = u'\t';
@@ -100,6 +106,10 @@ void RtfÇıktısı::Hücre()
 
 void RtfÇıktısı::TabloSatırı(bool içTablo)
 {
+    if (dipnot_ > 0) {
+        dipnotSatırı();
+        return;
+    }
     if (!içTablo && içTabloBitti_) { // the inner table was the row's end, and ended the line
         bekleyen_ = 0;
         içTabloBitti_ = false;
@@ -109,8 +119,22 @@ void RtfÇıktısı::TabloSatırı(bool içTablo)
     içTabloBitti_ = içTablo;
 }
 
-void RtfÇıktısı::DipnotBaşı()
+// The rows of a table in a footnote begin lines where they can; the bracket needs none.
+void RtfÇıktısı::dipnotSatırı()
 {
+    if (satırdaDipnot_) {
+        YeniSatır(true);
+        return;
+    }
+    bekleyen_ = 0;
+    listeMetniVar_ = false;
+    satırBaşıGerek_ = bekleyenDipnot_ == 0;
+}
+
+void RtfÇıktısı::DipnotBaşı(bool tabloda)
+{
+    if (dipnot_ == 0)
+        satırdaDipnot_ = tabloda;
     ++dipnot_;
     ++bekleyenDipnot_;
 }
@@ -122,8 +146,8 @@ void RtfÇıktısı::DipnotSonu()
         --bekleyenDipnot_; // it had no text
         return;
     }
-    if (bekleyen_ == u' ')
-        bekleyen_ = 0;
+    bekleyen_ = 0;
+    satırBaşıGerek_ = false;
     bekleyenleriYaz();
     sonuç_.Metin += u']';
 }

@@ -11,6 +11,8 @@ class RtfÇıktısı
 {
 public:
     bool Boş() const { return sonuç_.Metin.isEmpty(); }
+    /// Length so far in UTF-16 units.
+    int Boy() const { return static_cast<int>(sonuç_.Metin.size()); }
 
     /// Format of all that follows.
     void Biçimle(const KarakterBiçimi& biçim);
@@ -22,17 +24,22 @@ public:
     void YeniSatır(bool tabloda);
     void Hücre();
     void TabloSatırı(bool içTablo);
-    void DipnotBaşı();
+    /// @param tabloda the footnote belongs to a table cell
+    void DipnotBaşı(bool tabloda);
     void DipnotSonu();
     /// What follows begins a line.
     void SatırBaşı() { satırBaşıGerek_ = true; }
     /// Whether the paragraph has none yet; from then on it has.
     bool ListeMetniGerek();
+    bool ListeMetniVar() const { return listeMetniVar_; }
+    /// After what has paragraphs of its own amid one.
+    void ListeMetniVar(bool var) { listeMetniVar_ = var; }
     BiçimliMetin Bitir();
 
 private:
     bool satırBaşında() const { return Boş() || sonuç_.Metin.back() == u'\n'; }
     void satırBitir();
+    void dipnotSatırı();
     void bekleyenleriYaz();
     void parçaKapat();
 
@@ -43,6 +50,7 @@ private:
     int bekleyenDipnot_ = 0; // those of them that have no letter yet
     char16_t bekleyen_ = 0;  // a tab or blank that comes out before the next letter of the row
     bool satırBaşıGerek_ = false;
-    bool içTabloBitti_ = false; // the line break of an inner row stands last
+    bool satırdaDipnot_ = false; // the footnotes belong to a table row, which is one line
+    bool içTabloBitti_ = false;  // the line break of an inner row stands last
     bool listeMetniVar_ = false;
 };

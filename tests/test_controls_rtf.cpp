@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QScopeGuard>
+#include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -41,52 +42,79 @@ void TestControlsRtf::texts_data()
     const auto row = [&plain](const char* name, const char* body, const QString& text) {
         plain(name, "{\\rtf1" + QByteArray(body) + '}', text);
     };
-    row("document's page", R"(\ansi\ansicpg1254 \'dd\'fe\'d0)", u"İşĞ"_s);
-    row("Western without a page", R"(\ansi \'fd)", u"ý"_s);
-    row("Western font in a Turkish document", R"(\ansicpg1254{\fonttbl{\f0\fcharset0 A;}}\f0 \'fd)",
-        u"ı|0+1 A"_s);
-    row("default font's page", R"(\deff2{\fonttbl{\f2\fcharset204 A;}}\'cf\'f0)", u"Пр"_s);
-    row("font of a group", R"({\fonttbl{\f1\fcharset161 A;}}{\f1 \'e1}\'e1)", u"αá|0+1 A"_s);
-    row("page of a font", R"({\fonttbl{\f1\cpg857 A;}}\f1\'a7)", u"ğ|0+1 A"_s);
-    row("Macintosh", R"(\mac\'8a)", u"ä"_s);
-    row("DOS", R"(\pca\'84)", u"ä"_s);
+    row("document's pages", R"(\ansi \'fd\mac\'8a\pca\'84\ansicpg1254 \'dd\'fe\'d0)", u"ýääİşĞ"_s);
+    row("Western font, Turkish page", R"(\ansicpg1254{\fonttbl{\f0\fcharset0 A;}}\f0 \'fd)", u"ı|0+1 A"_s);
+    row("pages of fonts",
+        R"(\deff2{\fonttbl\f2\fcharset204;\f1\fcharset161;\f3\cpg857;}\'cf{\f1 \'e1}\'f0\f3\'a7)", u"Пαрğ"_s);
     row("Japanese", "{\\fonttbl{\\f1\\fcharset128 A;}}\\f1 \\'93\xfa\x93\r\n\\'fa\\'83\\\\\\'83!",
         u"日日ソ\uFFFD!|0+5 A"_s);
-    row("Chinese", R"({\fonttbl{\f1\fcharset134 A;}{\f2\fcharset136 B;}}\f1\'c4\'e3\f2\'a7A)",
-        u"你你|0+1 A,1+1 B"_s);
-    row("Korean", R"({\fonttbl{\f1\fcharset129 A;}{\f2\fcharset130 B;}}\f1\'b0\'a1\f2\'88\'61)",
-        u"가가|0+1 A,1+1 B"_s);
-    row("UTF-8", "\\ansicpg65001 \xe2\x82\xac\xe2(\xe2\x82", u"€\uFFFD(\uFFFD"_s);
-    row("Unicode", R"(\u351?\u-3937\'3f\u128512?\u-10179?\u-8704?)", u"ş\xF09F😀😀"_s);
-    row("lone surrogates", R"(\u-10179?a\u-8704?\u0?)", u"\uFFFDa\uFFFD"_s);
+    row("Chinese, Korean",
+        R"({\fonttbl\f1\fcharset134;\f2\fcharset136;\f3\fcharset129;\f4\fcharset130;}\f1\'c4\'e3\f2\'a7A\f3\'b0\'a1\f4\'88\'61)",
+        u"你你가가"_s);
+    row("letter over runs",
+        R"({\fonttbl{\f1\fcharset134 A;}}{\f1\'c4}{\f1\'e3\'ba\f1\'c3\'ba}{\f1\'c3\'ba\par}\'fe{\f1\'ba}\'fe)",
+        u"你好好\uFFFD\nþ\uFFFDþ|0+5 A"_s);
+    row("UTF-8 unsaid", R"({\fonttbl\f0\fcharset134;\f1 Symbol;}{\f1ş}\f0日\u351ş\b0ğ\'c4\'e3)",
+        u"ş日şğ你"_s);
+    row("UTF-8 unsaid, escaped", R"({\fonttbl{\f0\fcharset162 A;}}\f0\'c5\'9f\'e2\'82\'ac.)", u"ş€.|0+3 A"_s);
+    row("looks like UTF-8", "\\ansicpg936 \xc4\xa3\\'c4\\'a3", u"模模"_s);
+    row("looks like UTF-8, Turkish", R"(\ansicpg1254 \'c4\'b1\'fd)", u"Ä±ı"_s);
+    row("UTF-8", "\\ansicpg65001 \xe2\x82\xac\xe2(\xe2\xc5\x9f\xe2\x82", u"€\uFFFD(\uFFFDş\uFFFD"_s);
+    row("Unicode", R"(\u351?\u-3937\'3f\u128512?\u-10179?\u-8704?\u-10179?a\u-8704?\u0?)",
+        u"ş\xF09F😀😀\uFFFDa\uFFFD"_s);
     row("stand-ins", R"(\u305\par{\uc2\u305\'93\'fa\u305 {x}}\uc0\u305y\uc3\u305\bin2 }{\-zt)",
-        u"ıııxıyıt"_s);
+        u"ı\nııxıyıt"_s);
+    row("stand-ins forgotten", R"(\u305\b\u305{\u305\bullet\u305}b\u305\par\'fd)", u"ııııbı\ný|1+7 b"_s);
     row("both forms", R"({\upr{eski{x}}{\*\ud{yeni}}}z)", u"yeniz"_s);
     row("signs", R"(a\~b\-c\_\emdash\endash\bullet\lquote\rdblquote\tab\{\}\\)",
         u"a\u00A0bc\u2011—–•‘”\t{}\\"_s);
     row("breaks", "a\\par b\\line\\page\\sect\\column c\\\r\nd\r\ne\nf", u"a\nb\n\n\n\nc\ndef"_s);
-    row("dropped", R"({\info{\title t}}{\header h}{\*\ne x}{\pict 00}{\v v}{\deleted d}{\revised r}{\xe x})",
-        u"r"_s);
-    row("field", R"(a{\field{\*\fldinst{PAGE}}{\fldrslt b}}c)", u"abc"_s);
-    row("object",
-        R"(a{\object{\*\objdata 0102}{\result b}}{\shp{\*\shpinst{\sp{\sn n}}{\shptxt c}}{\shprslt c}}d)",
+    row("dropped",
+        R"({\info{\title\pard t}}{\header h}{\*\n x}{\pict 0}{\v v}{\deleted d}{\revised r}{\xe x})", u"r"_s);
+    row("fields",
+        R"(a{\field{\*\fldinst{HYPERLINK "x" \\* MERGEFORMAT \* x}}{\b\fldrslt {\b b{\field{\fldinst PAGE}{\*\fldrslt{c}}}}}}d)",
+        u"abcd|1+2 b"_s);
+    row("object", R"(a{\object{\*\objdata 01}{\result b}}{\shp{\*\shpinst{\sn n}{\shptxt c}}{\shprslt c}}d)",
         u"ab\nc\nd"_s);
     row("list", R"({\listtext\u8226?\tab}{\pntext 1}a\par{\pntext 2.\tab}b)", u"•\ta\n2.\tb"_s);
     row("list in a cell", R"(\intbl{\listtext 1.}a\par{\listtext 2.}b\cell\row)", u"1.a 2.b\n"_s);
-    row("symbol font", R"({\fonttbl{\f3\fcharset2 Symbol;}}\f3\'b7\u-3913?)", u"••|0+2 Symbol"_s);
+    row("items without list text",
+        R"({\fonttbl{\f1\fcharset2 Symbol;}}a{\*\pn\pnlvlbody\pndec\pnstart9{\pntxtb (}{\pntxta )}}\par b{\footnote x\par y}l\par{\pntext .}c{\shp{\*\shpinst{\shptxt z\par}}}d\par e\line k\par\pard f\par{\*\pn\pnlvlblt}g\par{\pntxta h}\pard{\*\pn\pnlvlblt\pnf1{\pntxtb\'ae}}i)",
+        u"a\n(9)\tb [x y]l\n.c\nz\nd\n(11)\te\nk\nf\n•\tg\n→\ti"_s);
+    row("levels of items",
+        R"({\*\pn\pnlvl1\pnucrm{\pntxta.}}a\par\pard{\*\pn\pnlvl2\pnlcltr\pnstart26}b\par c\par\pard{\*\pn\pnlvl1\pnucrm{\pntxta.}}d\par\pard{\*\pn\pnlvl2\pnlcltr\pnstart26}e\par\pard{\*\pn\pnlcrm\pnstart1999}f\par\pard{\*\pn\pnucltr}g\par\pard{\*\pn\pnlvlcont}h\par\pard i\par{\*\pn\pnucltr}j)",
+        u"I.\ta\nz\tb\naa\tc\nII.\td\nz\te\nmcmxcix\tf\nA\tg\nh\ni\nA\tj"_s);
+    row("symbol fonts",
+        R"({\fonttbl{\f1\fcharset2 Symbol;}{\f2 Zapf Dingbats;}{\f3\fcharset2 WINGDINGS;}}{\f1 ab\'a5\u-3999?}{\f2 4\'f1}{\f3\'fc\'02})",
+        u"αβ∞α✔➱✓"_s);
+    row("unknown symbol font", R"({\fonttbl{\f3\fcharset2 X;}}\f3\'b7\u-3929?a\'fd)", u"•▪aý|0+4 X"_s);
+    row("symbol fields",
+        R"({\field{\*\fldinst SYMBOL 97 \\f "Symbol" \\s 10}{\fldrslt}}{\field{\fldinst{\b SYMBOL 0xF061 \\f Symbol}}}{\field{\*\fldinst SYMBOL 8364 \\u}{\fldrslt{}}}{\field{\*\fldinst SYMBOL 65}{\fldrslt B}}{\field{\*\fldinst PAGE 65}})",
+        u"αα€B"_s);
     row("table", R"(\intbl a\cell b\par c\cell\row\intbl\cell\cell\cell\row\pard d)", u"a\tb c\n\t\t\nd"_s);
     row("inner table",
         R"(\intbl a\cell\itap2 b\nestcell c\nestcell{\*\nesttableprops\nestrow}{\nonesttables\par}\itap1\cell\row\pard d)",
         u"a\tb\tc\nd"_s);
+    row("merged cells",
+        R"(\trowd\clmgf\cellx1\clmrg\cellx2\clvmgf\cellx3\intbl a\cell b{\*\nesttableprops\trowd}\cell c\cell\row\cell\cell d\cell\row\trowd\cellx1\clmrg\cellx2\clvmrg\cellx3 e\cell\cell\cell\row)",
+        u"a b\tc\n\td\ne\t\n"_s);
+    row("table in a footnote",
+        R"(a{\footnote\intbl\cell\row b\cell c\cell\row d\cell\cell e\cell\row\pard}.\intbl{\footnote\intbl f\cell g\cell\row h\cell\row}\cell i\cell\row)",
+        u"a [b\tc\nd\t\te]. [f g h]\ti\n"_s);
     row("footnotes", R"(a{\footnote\chftn  b\par c}.{\footnote})", u"a [b c]."_s);
-    row("binary", R"(a\bin3 }{}b\bin-1 c)", u"abc"_s);
-    row("open groups", "{\\b a{b", u"ab|0+2 b"_s);
-    row("surplus brace", "a}b", u"a"_s);
+    row("binary", R"(a{\pict\bin3 }{}}b\bin-1 c{\pict\bin9 x}d e f g h i j{\pict\bin99999999999 y}k)",
+        u"abcd e f g h i jk"_s);
+    row("surplus brace", R"(a}b}c)", u"abc"_s);
+    row("surplus brace before a word", R"({\b a}}\par b{\b c)", u"a\nbc|0+1 b,3+1 b"_s);
+    plain("behind the last brace", "{\\rtf a}}b{c}"_ba, u"a"_s);
+    plain("NUL behind the last brace", "{\\rtf a}\0\\par b}"_ba, u"a"_s);
+    row("open head", R"({\fonttbl{\f0 A;}\pard a\par}{\header\pard x}{\pict\pard b{\info\title x\par\pard c)",
+        u"a\nbc"_s);
+    plain("deep groups", "{\\rtf" + QByteArray(12000, '{') + 'b' + QByteArray(12000, '}') + "c}", u"bc"_s);
     row("destination amid the document", R"(a\footer b)", u"ab"_s);
-    row("numbers out of range", R"(\fs99999999999\f-99999999999\uc99999999999 a\u99999999999999 b)",
-        u"a\uFFFD|0+2 3276"_s);
+    row("numbers", R"(\fs99999999999\f-9999999999\uc9999999999 a\u99999999999999 b)", u"a\uFFFD|0+2 3276"_s);
     row("none", R"(\deff0{\fonttbl{\f0 A;}}a\b\b0 b\cf0 c)", u"abc"_s);
-    row("groups", R"(a{\b b{\i c}}{\b d}e)", u"abcde|1+1 b,2+1 bi,3+1 b"_s);
+    row("groups", R"(a{\b b{\i c}}{\b d}e{\*\ne\b x}f{\b}\b\pard g)", u"abcdefg|1+1 b,2+1 bi,3+1 b,6+1 b"_s);
     row("lines", R"(\ul a\ulnone\strike b\strike0\uldb c\ul0 d\ulw\striked1 e\plain f)",
         u"abcdef|0+1 u,1+1 s,2+1 u,4+1 us"_s);
     row("colours", R"({\colortbl;\red255\green128;\blue999;}\cf1 a\cf2 b\cf3 c\cf0 d)",
@@ -94,12 +122,22 @@ void TestControlsRtf::texts_data()
     row("size", R"(\fs20 a{\fs0\fs48 b}\fs-1 c\fs9999 d)", u"abcd|0+1 20,1+1 48,2+1 20,3+1 3276"_s);
     row("fonts", R"({\fonttbl\f0 Serif;{\f7\fcharset162{\*\falt x}Sans\'fe Tur;}}\f7 a\f0 b\f9 c)",
         u"abc|0+1 Sansş,1+1 Serif"_s);
-    row("not in dropped text", R"({\*\ne\b x}a{\b}\b\pard b)", u"ab|1+1 b"_s);
     plain("empty", "", u""_s);
     plain("UTF-8", "ığ€😀", u"ığ€😀"_s);
     plain("UTF-8 with mark and a wrong byte", "\xef\xbb\xbfığ\xff", u"ığ\uFFFD"_s);
-    plain("Windows-1254", "\xdd\xfe\x85", u"İş…"_s);
-    plain("UTF-8 cut short is none", "\xc4\xb1\xc4", u"Ä±Ä"_s);
+    plain("UTF-8, wrong bytes",
+          "\x80\xc4\xb1\xe2\x82.\xf0\x9f\x98\xed\xa0\xc5\x9f\xc3\xb6\xc3\xbc\xc3\xa7\xc3\xa7\xff",
+          u"\uFFFDı\uFFFD.\uFFFD\uFFFD\uFFFDşöüçç\uFFFD"_s);
+    plain("UTF-8 cut short", "\xc4\xb1\xc4", u"ı\uFFFD"_s);
+    plain("UTF-8, Greek", "c\xc2\xb4 \xce\x91\xce\x92\xff\xff\xff", u"c´ ΑΒ\uFFFD\uFFFD\uFFFD"_s);
+    plain("Windows-1254", "abc\xfe\x85", u"abcş…"_s);
+    plain("Windows-1254, letters with marks", "AL\xdd\x92N\xddN, K\xd6Y\x85, AL\xdd\xb4N\xddN,i\xe7\x92\x94",
+          u"ALİ’NİN, KÖY…, ALİ´NİN,iç’”"_s);
+    plain("Windows-1254, nothing but such", "AL\xdd\x92", u"ALİ’"_s);
+    for (const QString& text : {u"a"_s, u"ışığı"_s, u"Ali’nin 5 €, ₺"_s, u"Жуков γ 中"_s}) {
+        plain(qUtf8Printable(text + u" LE"_s), QStringEncoder(QStringEncoder::Utf16LE)(text), text);
+        plain(qUtf8Printable(text + u" BE"_s), QStringEncoder(QStringEncoder::Utf16BE)(text), text);
+    }
     plain("UTF-16, low byte first", QByteArray("\xff\xfe\x31\x01\r\0\n\0\x3d\xd8", 10), u"ı\n\uFFFD"_s);
     plain("UTF-16, high byte first", QByteArray("\xfe\xff\x01\x31\x20\x28\xdc\0", 8), u"ı\n\uFFFD"_s);
     plain("line ends", "a\rb\nc\r\nd\n\re\ff\u2028g\u2029h", u"a\nb\nc\nd\n\ne\nf\ng\nh"_s);
@@ -139,11 +177,10 @@ void TestControlsRtf::fileErrors_data()
     row("2 GB", {}, u"çok büyük"_s);
     row("no permission", {}, u"izniniz yok"_s);
     row("NUL", QByteArray("abc\0d", 5), u"metin dosyası değil"_s);
+    row("even NUL", QByteArray("ab\0c", 4), u"metin dosyası değil"_s);
+    row("numbers of 16 bits", QByteArray("a\0b\0\0\0c\0d\0", 10), u"metin dosyası değil"_s);
     row("control characters", "a\x01\x02", u"metin dosyası değil"_s);
-    row("too deep", "{\\rtf1 a" + QByteArray(1000, '{') + QByteArray(1001, '}'), u"bozuk"_s);
     row("cut in a table", "\xef\xbb\xbf \r\n{\\rtf1{\\fonttbl{\\f0 Ari", u"bozuk"_s);
-    row("binary data too long", "{\\rtf1 a\\bin9 }", u"bozuk"_s);
-    row("the same where it is dropped", "{\\rtf1 a{\\pict\\bin9999999999 }}", u"bozuk"_s);
 }
 
 void TestControlsRtf::fileErrors()
@@ -223,7 +260,9 @@ void TestControlsRtf::floods_data()
     row("footnotes", "", "{\\footnote a}");
     row("long word", "\\", "abcdefgh");
     row("digits", "\\fs", "99999999");
-    row("Unicode", "", "\\u1\\uc9 ");
+    row("Unicode", "", "\\u1\\uc9\\'e9 x");
+    row("items", "", "{\\pn\\pndec\\pnstart{\\pntxta )}}a\\par");
+    row("surplus braces", "}", "a}");
 }
 
 // Nothing grows faster than the input.
