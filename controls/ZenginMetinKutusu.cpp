@@ -1,6 +1,7 @@
 #include "controls/ZenginMetinKutusu.h"
 
 #include "app/RtfBelgesi.h"
+#include "controls/BelgeDüzenleme.h"
 
 #include <QMimeData>
 #include <QScrollBar>
@@ -14,55 +15,6 @@
 namespace {
 
 constexpr Renk İşaretRengi = 0x0000FF; // red
-
-/// Gives stretches of a text formats of their own, all in one edit: the layout then is told once.
-class TopluBiçimleme
-{
-public:
-    explicit TopluBiçimleme(QTextDocument& belge) : imleç_(&belge) { imleç_.beginEditBlock(); }
-    ~TopluBiçimleme() { imleç_.endEditBlock(); }
-    TopluBiçimleme(const TopluBiçimleme&) = delete;
-    TopluBiçimleme& operator=(const TopluBiçimleme&) = delete;
-
-    void Ver(int yer, int uzunluk, const QTextCharFormat& biçim)
-    {
-        imleç_.setPosition(yer);
-        imleç_.setPosition(yer + uzunluk, QTextCursor::KeepAnchor);
-        imleç_.mergeCharFormat(biçim);
-    }
-
-private:
-    QTextCursor imleç_;
-};
-
-QTextCharFormat ekranBiçimi(const KarakterBiçimi& biçim, const QColor& zemin)
-{
-    QTextCharFormat sonuç;
-    if (biçim.Kalın)
-        sonuç.setFontWeight(QFont::Bold);
-    if (biçim.İtalik)
-        sonuç.setFontItalic(true);
-    if (biçim.AltıÇizili)
-        sonuç.setFontUnderline(true);
-    if (biçim.ÜstüÇizili)
-        sonuç.setFontStrikeOut(true);
-    if (biçim.YarımNokta > 0)
-        sonuç.setFontPointSize(biçim.YarımNokta / 2.0);
-    if (!biçim.YazıTipi.isEmpty())
-        sonuç.setFontFamilies({biçim.YazıTipi});
-    if (biçim.Renk != KarakterBiçimi::Renksiz) {
-        const QColor renk = EkranRengi(biçim.Renk, {});
-        if (OkunurYazıRengi(renk) != OkunurYazıRengi(zemin)) // dark on dark could not be read
-            sonuç.setForeground(renk);
-    }
-    return sonuç;
-}
-
-// What the library refuses, and no text needs.
-QString nulSuz(QString metin)
-{
-    return metin.remove(QChar(u'\0'));
-}
 
 QString satırlı(QString metin)
 {
@@ -119,19 +71,14 @@ QMimeData* ZenginMetinKutusu::createMimeDataFromSelection() const
 void ZenginMetinKutusu::Text(const QString& metin)
 {
     setCurrentCharFormat({}); // else the marks at the caret would colour all of the new text
-    setPlainText(nulSuz(metin));
+    setPlainText(NulSuz(metin));
     biçimli_ = false;
 }
 
 void ZenginMetinKutusu::Değiştir(const BiçimliMetin& belge)
 {
     biçimli_ = !belge.Parçalar.isEmpty();
-    TopluBiçimleme biçimleme(*document());
-    QTextCursor imleç(document());
-    imleç.select(QTextCursor::Document);
-    imleç.insertText(nulSuz(belge.Metin), {});
-    for (const BiçimliParça& parça : belge.Parçalar)
-        biçimleme.Ver(parça.Yer, parça.Uzunluk, ekranBiçimi(parça.Biçim, palette().color(QPalette::Base)));
+    BelgeyiDeğiştir(*document(), belge, palette().color(QPalette::Base));
     setTextCursor(QTextCursor(document())); // to the beginning
 }
 
@@ -140,22 +87,9 @@ void ZenginMetinKutusu::DüzMetneİndir()
     const QString metin = Text();
     const auto ilk = std::find_if_not(metin.begin(), metin.end(), kırpılır);
     const auto son = std::find_if_not(metin.rbegin(), std::reverse_iterator(ilk), kırpılır).base();
-    if (!biçimli_ && ilk == metin.begin() && son == metin.end())
-        return;
-    QTextCursor imleç(document());
-    imleç.beginEditBlock();
-    const auto çıkar = [&imleç](qsizetype baş, qsizetype bitiş) {
-        imleç.setPosition(static_cast<int>(baş));
-        imleç.setPosition(static_cast<int>(bitiş), QTextCursor::KeepAnchor);
-        imleç.removeSelectedText();
-    };
-    çıkar(son - metin.begin(), metin.size());
-    çıkar(0, ilk - metin.begin());
-    if (std::exchange(biçimli_, false)) {
-        imleç.select(QTextCursor::Document);
-        imleç.setCharFormat({});
-    }
-    imleç.endEditBlock();
+    if (biçimli_ || ilk != metin.begin() || son != metin.end())
+        BelgeyiKırp(*document(), ilk - metin.begin(), metin.end() - son,
+                    std::exchange(biçimli_, false) ? Biçimler::Gitsin : Biçimler::Kalsın);
 }
 
 void ZenginMetinKutusu::YalnızOkunur()
@@ -163,12 +97,12 @@ void ZenginMetinKutusu::YalnızOkunur()
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
-// Only text comes in, whatever else the clipboard offers with it.
+// Only text comes in, whatever else the clipboard offers with it. No scrolling here: a drop calls this in
+// the middle of its own step. The widget follows its caret by itself.
 void ZenginMetinKutusu::insertFromMimeData(const QMimeData* veri)
 {
     if (veri->hasText())
-        textCursor().insertText(nulSuz(veri->text()), {});
-    ensureCursorVisible();
+        textCursor().insertText(NulSuz(veri->text()), {});
 }
 
 void ZenginMetinKutusu::SelStart(int yer)
@@ -193,11 +127,7 @@ void ZenginMetinKutusu::İşaretle(const QList<qsizetype>& yerler, qsizetype uzu
     QTextCharFormat işaret;
     işaret.setForeground(EkranRengi(İşaretRengi, palette()));
     işaret.setFontWeight(QFont::Bold);
-    {
-        TopluBiçimleme biçimleme(*document());
-        for (const qsizetype yer : yerler)
-            biçimleme.Ver(static_cast<int>(yer), static_cast<int>(uzunluk), işaret);
-    }
+    BelgedeBiçimle(*document(), yerler, uzunluk, işaret);
 
     // The caret ends at the last one; the reader begins at the first.
     const int önce = verticalScrollBar()->value();

@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -46,6 +47,8 @@ private slots:
     void references_data();
     void references();
     void referenceWindow();
+    void changesWhileScrolled_data();
+    void changesWhileScrolled();
 
 private:
     QAction& entry(const QString& name) { return *t->Form->findChild<QAction*>(name); }
@@ -156,6 +159,65 @@ void TestTextCommands::referenceWindow()
     QCOMPARE(read.Parçalar.value(0).Biçim.YarımNokta, 18);
     ReferansFormu noDate(u"TARİHSİZ"_s);
     QCOMPARE(field(noDate)->Text(), u"Zeki Su, \"Tarihsiz\", Van"_s);
+}
+
+void TestTextCommands::changesWhileScrolled_data()
+{
+    using Box = ZenginMetinKutusu;
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<std::function<void(Box&)>>("change");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<bool>("caretShown");
+    const auto row = [](const char* name, const QString& before, const std::function<void(Box&)>& change,
+                        const QString& after,
+                        bool caretShown) { QTest::newRow(name) << before << change << after << caretShown; };
+    const auto replace = [](const QString& text) {
+        return [text](Box& box) {
+            box.Değiştir({text, {{0, 4, {.Kalın = true, .YazıTipi = {}}}}});
+            QCOMPARE(box.SelStart(), 0);
+        };
+    };
+    const QString lines = u"Deniz kıyısında bir satır\n"_s.repeated(60);
+    const QString letters = u"uzun "_s.repeated(20000);
+    row("replaced", lines, replace(lines), lines, true);
+    row("replaced by little", letters, replace(u"iki sözcük"_s), u"iki sözcük"_s, true);
+    row(
+        "made plain", u' ' + letters, [](Box& box) { box.DüzMetneİndir(); }, letters.chopped(1), false);
+    row(
+        "pasted", lines,
+        [lines](Box& box) {
+            QApplication::clipboard()->setText(lines);
+            box.paste();
+        },
+        lines + lines, true);
+    row(
+        "dropped", lines, // before a line like its own
+        [lines](Box& box) {
+            QMimeData data;
+            data.setText(lines);
+            QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(box.viewport(), &enter);
+            QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(box.viewport(), &drop);
+        },
+        lines + lines, true);
+}
+
+void TestTextCommands::changesWhileScrolled()
+{
+    QFETCH(std::function<void(ZenginMetinKutusu&)>, change);
+    QFETCH(QString, before);
+    ZenginMetinKutusu box;
+    box.setUndoRedoEnabled(true);
+    box.resize(600, 200);
+    box.show();
+    box.Değiştir({before, {}});
+    box.verticalScrollBar()->setValue(box.verticalScrollBar()->maximum());
+    change(box);
+    QTEST(box.Text(), "after");
+    QTEST(box.viewport()->rect().intersects(box.cursorRect()), "caretShown");
+    box.undo();
+    QCOMPARE(box.Text(), before);
 }
 
 QTEST_MAIN(TestTextCommands)
