@@ -105,6 +105,12 @@ void ZenginMetinKutusu::insertFromMimeData(const QMimeData* veri)
         textCursor().insertText(NulSuz(veri->text()), {});
 }
 
+// The plain-text editor's own would change the letters' size when Ctrl is held; that is a setting's matter.
+void ZenginMetinKutusu::wheelEvent(QWheelEvent* olay)
+{
+    QAbstractScrollArea::wheelEvent(olay);
+}
+
 void ZenginMetinKutusu::SelStart(int yer)
 {
     const int görünen = verticalScrollBar()->value();

@@ -57,6 +57,7 @@ public:
 protected:
     QMimeData* createMimeDataFromSelection() const override;
     void insertFromMimeData(const QMimeData* veri) override;
+    void wheelEvent(QWheelEvent* olay) override;
 
 private:
     void imleciKoy(int yer);

@@ -49,6 +49,7 @@ private slots:
     void referenceWindow();
     void changesWhileScrolled_data();
     void changesWhileScrolled();
+    void wheelWithControl();
 
 private:
     QAction& entry(const QString& name) { return *t->Form->findChild<QAction*>(name); }
@@ -218,6 +219,16 @@ void TestTextCommands::changesWhileScrolled()
     QTEST(box.viewport()->rect().intersects(box.cursorRect()), "caretShown");
     box.undo();
     QCOMPARE(box.Text(), before);
+}
+
+void TestTextCommands::wheelWithControl()
+{
+    const int size = t->Metin().FontSize();
+    for (const int turn : {120, -120, -120}) {
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, turn}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(t->Metin().viewport(), &wheel);
+        QCOMPARE(t->Metin().FontSize(), size);
+    }
 }
 
 QTEST_MAIN(TestTextCommands)
