@@ -60,7 +60,9 @@ public:
     {
         if (bitti())
             return;
-        QProcess* kalan = süreç_.release(); // destroyed now, it would take the program with it
+        static auto* const kalanlar = new QObject; // never destroyed: it would take the programs with it
+        QProcess* kalan = süreç_.release();
+        kalan->setParent(kalanlar);
         QObject::connect(kalan, &QProcess::finished, kalan, &QObject::deleteLater);
     }
     Aktarım(const Aktarım&) = delete;
