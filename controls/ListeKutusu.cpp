@@ -27,6 +27,8 @@ public:
     }
     QVariant data(const QModelIndex& yer, int rol) const override
     {
+        if (!yer.isValid()) // the view asks so for what to copy when nothing is chosen
+            return {};
         if (rol == Qt::DisplayRole)
             return metinler_[yer.row()];
         if (rol == Qt::SizeHintRole) // no width of its own: entries are as wide as the box, and cut there

@@ -38,7 +38,6 @@ private slots:
         QWidget window;
         WebEtiketi link(&window);
         const auto state = [](const QVariantMap& of) { return QVariantMap{{u"Belgenar.WebEtiketi"_s, of}}; };
-        QCOMPARE(link.DurumuYaz(), state({}));
         QVariantMap keys = {{u"Caption"_s, u"Ğ & ı"_s}, {u"FontUnderline"_s, true},
                             {u"ForeColor"_s, 1u},       {u"Font"_s, QFont(u"Serif"_s, 9)},
                             {u"AktifRenk"_s, 2u},       {u"PasifRenk"_s, 3u},
