@@ -4,10 +4,8 @@
 #include "controls/RtfOkuyucu.h"
 #include "forms/ReferansFormu.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollBar>
@@ -19,7 +17,7 @@ namespace {
 
 const QList<Makale> Örnek = {
     {u"ALİ RIZA IŞIK"_s, u"İNCE ÇİZGİ"_s, u"İlk\u00a0satır\n\tikinci"_s, u"İzmir"_s, u"01.02.2003"_s},
-    {u"TEKAD"_s, u"O'NEIL"_s, u"x"_s},
+    {u"TEK-AD"_s, u"AD"_s, u"x"_s},
     {u"ZEKİ SU"_s, u"TARİHSİZ"_s, u"y"_s, u"kuzey VAN"_s, u""_s},
 };
 const QString İlkReferans = u"Ali Rıza Işık, \"İnce Çizgi\", İzmir, 01.02.2003"_s;
@@ -91,11 +89,11 @@ private slots:
     {
         QCOMPARE(ReferansFormu::Referans(u"ALİ  IŞIK"_s, u"\"X\" VE 2.SINIF"_s, u"a"_s, u"b"_s),
                  u"Ali Işık, \"\"x\" Ve 2.sınıf\", a, b"_s);
-        QCOMPARE(ReferansFormu::Referans(u"A-B"_s, {}, {}, {}), u"A-b, \"\", "_s);
         for (const auto& [title, line] :
              {std::pair(Örnek[0].Başlık, İlkReferans),
               std::pair(u"TARİHSİZ"_s, u"Zeki Su, \"Tarihsiz\", kuzey VAN"_s), // the place stays as stored
-              std::pair(u"O'NEIL"_s, u""_s), std::pair(u""_s, u""_s), std::pair(u"YOK"_s, u""_s)}) {
+              std::pair(u"AD"_s, u"Tek-ad, \"Ad\", Ankara, Şubat 2003"_s), std::pair(u"O'NEIL"_s, u""_s),
+              std::pair(u"YOK"_s, u""_s)}) {
             ReferansFormu window(title);
             QCOMPARE(window.windowTitle(), u"Referans Bilgisi Oluşturma..."_s);
             window.findChild<QPushButton*>(u"KopyalaButonu"_s)->click();
@@ -121,6 +119,7 @@ private slots:
         data->setText(lines.trimmed());
         QApplication::clipboard()->setMimeData(data);
         box->paste();
+        QTest::keyClick(box.get(), Qt::Key_Tab); // goes on, and types nothing
         QCOMPARE(box->Text(), lines.trimmed() + lines);
         QVERIFY(box->viewport()->rect().contains(box->cursorRect()));
         QVERIFY(!box->textCursor().charFormat().hasProperty(QTextFormat::FontWeight));
@@ -146,12 +145,13 @@ private:
         const QMimeData* data = QApplication::clipboard()->mimeData();
         return data->formats() == QStringList{u"text/plain"_s} ? data->text() : u"not just text"_s;
     }
-    static std::unique_ptr<ZenginMetinKutusu> scrolled(const QString& text)
+    std::unique_ptr<ZenginMetinKutusu> scrolled(const QString& text)
     {
-        auto box = std::make_unique<ZenginMetinKutusu>();
+        auto box = std::make_unique<ZenginMetinKutusu>(&*t->Form);
+        box->resize(300, 200);
         box->setUndoRedoEnabled(true);
         box->show();
-        box->Değiştir({text, {{0, 40, {.Kalın = true, .YazıTipi = {}}}}});
+        box->Değiştir({text, {{0, int(text.size()), {.Kalın = true, .YazıTipi = {}}}}});
         box->verticalScrollBar()->setValue(box->verticalScrollBar()->maximum());
         return box;
     }
