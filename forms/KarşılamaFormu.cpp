@@ -3,6 +3,7 @@
 #include "app/Görünüm.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/PencereYeri.h"
 #include "app/ProgramSimgesi.h"
 
 #include <QScreen>
@@ -43,6 +44,5 @@ KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::F
     }
     setMinimumWidth(Piksel(EnAzGenişlik));
     adjustSize();
-    const QRect ekran = screen()->availableGeometry();
-    move(ekran.center() - rect().center());
+    move(OrtalıYer(screen()->geometry(), size()));
 }

@@ -7,6 +7,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/PencereYeri.h"
 #include "app/ProgramSimgesi.h"
 #include "app/TekÖrnek.h"
 #include "app/İletiKutusu.h"
@@ -101,6 +102,7 @@ int SubMain(QApplication& uygulama)
     return HatadaBildirVeÇık([&] {
         diliKur(uygulama);
         uygulama.setFont(FormYazıTipi());
+        const PencereYerleştirici yerleştirici(uygulama);
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
         AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - ") + Metin(5) + u' ' + SürümMetni();
         tekÖrnek.emplace(AnaPencereBaşlığı);
