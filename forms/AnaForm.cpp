@@ -34,7 +34,8 @@ AnaForm::AnaForm() : yüzey_(new QWidget(this))
     menüleriKur();
     sekmeSırasıKur();
     olaylarıBağla();
-    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+    resize(QSize(FormPikseli(OlağanGenişlik), FormPikseli(OlağanYükseklik))
+               .boundedTo(screen()->availableSize()));
 }
 
 AnaForm::~AnaForm() = default;

@@ -1,4 +1,5 @@
-// The main window's size and the places of its controls. All measures are twips.
+// The main window's size and the places of its controls. All measures are twips; those of the controls grow
+// with the letters.
 #include "forms/AnaForm.h"
 
 #include "app/Görünüm.h"
@@ -39,7 +40,8 @@ struct Kutu
 
 void koy(QWidget& kontrol, const Kutu& kutu)
 {
-    kontrol.setGeometry(Piksel(kutu.sol), Piksel(kutu.üst), Piksel(kutu.genişlik), Piksel(kutu.yükseklik));
+    kontrol.setGeometry(FormPikseli(kutu.sol), FormPikseli(kutu.üst), FormPikseli(kutu.genişlik),
+                        FormPikseli(kutu.yükseklik));
 }
 
 } // namespace
@@ -110,9 +112,9 @@ void AnaForm::yerleştir(int genişlik, int yükseklik)
         koy(Etiket[i], etiket[i]);
 }
 
-QSize AnaForm::dışBoy() const
+QSize AnaForm::enAzBoy()
 {
-    return {Twip(frameGeometry().width()), Twip(frameGeometry().height())};
+    return {FormPikseli(EnAzGenişlik), FormPikseli(EnAzYükseklik)};
 }
 
 PencereDurumu AnaForm::pencereDurumu() const
@@ -124,9 +126,9 @@ PencereDurumu AnaForm::pencereDurumu() const
 
 void AnaForm::Form_Resize()
 {
-    yerleşen_ = dışBoy();
-    if (yerleşen_.width() >= EnAzGenişlik && yerleşen_.height() >= EnAzYükseklik)
-        AdımAdım([this] { yerleştir(yerleşen_.width(), yerleşen_.height()); });
+    yerleşen_ = frameGeometry().size();
+    if (enAzBoy().boundedTo(yerleşen_) == enAzBoy())
+        AdımAdım([this] { yerleştir(FormTwipi(yerleşen_.width()), FormTwipi(yerleşen_.height())); });
     enAzBoyuUygula();
 }
 
@@ -135,7 +137,7 @@ void AnaForm::Form_Resize()
 void AnaForm::enAzBoyuUygula()
 {
     const QSize çerçeve = frameGeometry().size() - size();
-    setMinimumSize(QSize(Piksel(EnAzGenişlik), Piksel(EnAzYükseklik)) - çerçeve);
+    setMinimumSize(enAzBoy() - çerçeve);
 }
 
 void AnaForm::resizeEvent(QResizeEvent* olay)
@@ -147,7 +149,7 @@ void AnaForm::resizeEvent(QResizeEvent* olay)
 void AnaForm::moveEvent(QMoveEvent* olay)
 {
     QMainWindow::moveEvent(olay);
-    if (dışBoy() != yerleşen_) // the frame has come or gone
+    if (frameGeometry().size() != yerleşen_) // the frame has come or gone
         Form_Resize();
 }
 
@@ -157,8 +159,9 @@ void AnaForm::Sınırla_Timer()
         return;
     AdımAdım([this] {
         const QSize ekran = screen()->virtualGeometry().size();
-        move(Piksel(SınırlıKonum(Twip(pos().x()), Twip(ekran.width()), dışBoy().width(), Eksen::Yatay)),
-             Piksel(SınırlıKonum(Twip(pos().y()), Twip(ekran.height()), dışBoy().height(), Eksen::Dikey)));
+        const QRect yer = frameGeometry();
+        move(Piksel(SınırlıKonum(Twip(yer.x()), Twip(ekran.width()), Twip(yer.width()), Eksen::Yatay)),
+             Piksel(SınırlıKonum(Twip(yer.y()), Twip(ekran.height()), Twip(yer.height()), Eksen::Dikey)));
     });
 }
 

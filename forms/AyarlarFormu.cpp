@@ -72,7 +72,7 @@ void AyarlarFormu::yerleştir()
 {
     QFont enBüyük = font();
     enBüyük.setPointSize(YazıBoyutu(EnBüyükSıra));
-    ÖrnekMetinKutusu.setMinimumSize(Piksel(ÖrnekGenişliği),
+    ÖrnekMetinKutusu.setMinimumSize(FormPikseli(ÖrnekGenişliği),
                                     ÖrnekSatırı * QFontMetrics(enBüyük).lineSpacing());
     auto* örnek = new QVBoxLayout(&Çerçeve);
     örnek->addWidget(&ÖrnekMetinKutusu);
@@ -86,7 +86,7 @@ void AyarlarFormu::yerleştir()
     auto* ızgara = new QGridLayout(&Altlık);
     int satır = 0;
     for (AçılırListe* liste : {&YazıTipiListesi, &YazıTipiBoyutuListesi, &ZeminRengiListesi}) {
-        liste->setMinimumWidth(Piksel(ListeGenişliği));
+        liste->setMinimumWidth(FormPikseli(ListeGenişliği));
         ızgara->addWidget(&Etiket[static_cast<std::size_t>(satır)], satır, 0);
         ızgara->addWidget(liste, satır++, 1);
     }

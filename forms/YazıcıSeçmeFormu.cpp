@@ -54,7 +54,7 @@ void YazıcıSeçmeFormu::kontrolleriKur()
     Çerçeve.setObjectName(QStringLiteral("Çerçeve"));
     Çerçeve.setTitle(çerçeveYazısı);
     YazıcıAdlarıKutusu.setObjectName(QStringLiteral("YazıcıAdlarıKutusu"));
-    YazıcıAdlarıKutusu.setMinimumWidth(Piksel(KutuGenişliği));
+    YazıcıAdlarıKutusu.setMinimumWidth(FormPikseli(KutuGenişliği));
     BağlantıNoktasıKutusu.setObjectName(QStringLiteral("BağlantıNoktasıKutusu"));
     BağlantıNoktasıKutusu.setReadOnly(true);
 
@@ -74,12 +74,12 @@ void YazıcıSeçmeFormu::kontrolleriKur()
     İptalDüğmesi.setObjectName(QStringLiteral("İptalDüğmesi"));
     İptalDüğmesi.setText(iptalYazısı);
     for (QPushButton* düğme : {&TamamDüğmesi, &İptalDüğmesi})
-        düğme->setMinimumWidth(Piksel(DüğmeGenişliği));
+        düğme->setMinimumWidth(FormPikseli(DüğmeGenişliği));
 }
 
 void YazıcıSeçmeFormu::yerleştir()
 {
-    const int boşluk = Piksel(KenarBoşluğu);
+    const int boşluk = FormPikseli(KenarBoşluğu);
     auto* kutular = new QGridLayout(&Çerçeve);
     kutular->setContentsMargins(boşluk, boşluk, boşluk, boşluk);
     kutular->addWidget(&Etiket[0], 0, 0);

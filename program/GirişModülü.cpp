@@ -101,6 +101,7 @@ int SubMain(QApplication& uygulama)
     std::optional<KarşılamaFormu> karşılama;
     return HatadaBildirVeÇık([&] {
         diliKur(uygulama);
+        FormÖlçüsünüKur(uygulama.font(), {AnaForm::EnAzGenişlik, AnaForm::EnAzYükseklik});
         uygulama.setFont(FormYazıTipi());
         const PencereYerleştirici yerleştirici(uygulama);
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
