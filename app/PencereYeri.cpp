@@ -73,7 +73,8 @@ private:
             return;
         }
         const QMargins gerçek = çerçeve(pencere_);
-        if (gerçek.isNull() || pencere_.size() != boy_)
+        const QSize sapma = pencere_.size() - boy_; // a fraction is rounded where the screen is scaled
+        if (gerçek.isNull() || std::max(std::abs(sapma.width()), std::abs(sapma.height())) > 1)
             return;
         if (gerçek != std::exchange(kenarlar_, gerçek))
             koy();
@@ -85,7 +86,9 @@ private:
     {
         const QScopedValueRollback koyuyor(koyuyor_, true);
         const QSize pay(kenarlar_.left() + kenarlar_.right(), kenarlar_.top() + kenarlar_.bottom());
-        const QSize boy = pencere_.size().boundedTo(pencere_.screen()->availableSize() - pay);
+        const int kesir = pencere_.devicePixelRatioF() > 1 ? 1 : 0; // what rounding may add
+        const QSize boy =
+            pencere_.size().boundedTo(pencere_.screen()->availableSize() - pay - QSize(kesir, kesir));
         pencere_.setGeometry(QRect(yer_(boy + pay) + QPoint(kenarlar_.left(), kenarlar_.top()), boy));
         boy_ = pencere_.size();
     }
