@@ -6,6 +6,7 @@
 #include <QMargins>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <cmath>
@@ -35,7 +36,11 @@ QScreen& ekranı(const QWidget& pencere)
     return yakını ? *yakını->screen() : *QGuiApplication::primaryScreen();
 }
 
-/// Sees to one window's place until its frame is known, then ends.
+constexpr int Oturma = 300; // ms in which a window comes to rest
+constexpr int EnÇokDüzeltme = 8;
+
+/// Sees to one window's place until a moment after its frame is known, then ends: what the system tells while
+/// it puts the frame around may move the window once more.
 class ÇerçeveBekleyen : public QObject
 {
 public:
@@ -76,10 +81,18 @@ private:
         const QSize sapma = pencere_.size() - boy_; // a fraction is rounded where the screen is scaled
         if (gerçek.isNull() || std::max(std::abs(sapma.width()), std::abs(sapma.height())) > 1)
             return;
-        if (gerçek != std::exchange(kenarlar_, gerçek))
+        const bool değişti = gerçek != std::exchange(kenarlar_, gerçek);
+        // A window manager may have a place of its own for the window: that is its right.
+        if ((değişti || uzakta()) && düzeltme_++ < EnÇokDüzeltme)
             koy();
-        pencere_.removeEventFilter(this);
-        deleteLater();
+        if (!std::exchange(belli_, true))
+            QTimer::singleShot(Oturma, this, &QObject::deleteLater);
+    }
+
+    bool uzakta() const
+    {
+        const QPoint fark = pencere_.geometry().topLeft() - konum_;
+        return fark.manhattanLength() > 2;
     }
 
     void koy()
@@ -89,7 +102,8 @@ private:
         const int kesir = pencere_.devicePixelRatioF() > 1 ? 1 : 0; // what rounding may add
         const QSize boy =
             pencere_.size().boundedTo(pencere_.screen()->availableSize() - pay - QSize(kesir, kesir));
-        pencere_.setGeometry(QRect(yer_(boy + pay) + QPoint(kenarlar_.left(), kenarlar_.top()), boy));
+        konum_ = yer_(boy + pay) + QPoint(kenarlar_.left(), kenarlar_.top());
+        pencere_.setGeometry(QRect(konum_, boy));
         boy_ = pencere_.size();
     }
 
@@ -97,6 +111,9 @@ private:
     std::function<QPoint(const QSize&)> yer_;
     QMargins kenarlar_;
     QSize boy_;
+    QPoint konum_;       // of the inner part
+    bool belli_ = false; // the frame is known
+    int düzeltme_ = 0;
     bool koyuyor_ = false;
 };
 
