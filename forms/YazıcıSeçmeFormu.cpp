@@ -4,6 +4,7 @@
 #include "app/HataPolitikaları.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "controls/Etiketler.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -59,8 +60,7 @@ void YazıcıSeçmeFormu::kontrolleriKur()
     BağlantıNoktasıKutusu.setReadOnly(true);
 
     const auto etiketiKur = [this](std::size_t sıra, const QString& yazı, QWidget& kontrol) {
-        Etiket[sıra].setObjectName(QStringLiteral("Etiket%1").arg(sıra));
-        Etiket[sıra].setText(yazı);
+        EtiketiKur(Etiket[sıra], sıra, yazı);
         Etiket[sıra].setBuddy(&kontrol);
         kontrol.setAccessibleName(okunuş(yazı));
     };
