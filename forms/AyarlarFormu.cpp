@@ -50,6 +50,7 @@ void AyarlarFormu::kontrolleriKur()
     İlkAyarlarButonu.setObjectName(QStringLiteral("İlkAyarlarButonu"));
     TamamButonu.setObjectName(QStringLiteral("TamamButonu"));
     İptalButonu.setObjectName(QStringLiteral("İptalButonu"));
+    YardımButonu.setObjectName(QStringLiteral("YardımButonu"));
 
     EtiketiKur(Etiket[0], 0, 245, YazıTipiListesi);
     EtiketiKur(Etiket[1], 1, 250, YazıTipiBoyutuListesi);
@@ -57,6 +58,7 @@ void AyarlarFormu::kontrolleriKur()
     İlkAyarlarButonu.setText(Metin(270));
     TamamButonu.setText(Metin(275));
     İptalButonu.setText(Metin(280));
+    YardımButonu.setText(Metin(120)); // nothing answers it yet
     TamamButonu.setDefault(true);
 
     // Only looked at: it takes no focus.
@@ -82,6 +84,7 @@ void AyarlarFormu::yerleştir()
     düğmeler->addStretch();
     düğmeler->addWidget(&TamamButonu);
     düğmeler->addWidget(&İptalButonu);
+    düğmeler->addWidget(&YardımButonu);
 
     auto* ızgara = new QGridLayout(&Altlık);
     int satır = 0;
