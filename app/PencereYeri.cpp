@@ -136,6 +136,11 @@ QPoint OrtalıYer(const QRect& üst, const QSize& kutu)
     return {orta(üst.x(), üst.width(), kutu.width()), orta(üst.y(), üst.height(), kutu.height())};
 }
 
+QRect ÇerçeveliYer(const QWidget& pencere)
+{
+    return pencere.geometry().marginsAdded(çerçeve(pencere));
+}
+
 void PencereyiKoy(QWidget& pencere, std::function<QPoint(const QSize&)> yer)
 {
     new ÇerçeveBekleyen(pencere, std::move(yer)); // the window's
@@ -153,7 +158,7 @@ bool PencereYerleştirici::eventFilter(QObject* nesne, QEvent* olay)
             QScreen& ekran = ekranı(*pencere);
             pencere->setScreen(&ekran);
             const QWidget* sahip = pencere->parentWidget();
-            const QRect üst = sahip ? sahip->window()->frameGeometry() : ekran.geometry();
+            const QRect üst = sahip ? ÇerçeveliYer(*sahip->window()) : ekran.geometry();
             PencereyiKoy(*pencere, [üst, alan = ekran.availableVirtualGeometry()](const QSize& boy) {
                 return içeride(OrtalıYer(üst, boy), boy, alan);
             });

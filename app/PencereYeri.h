@@ -14,6 +14,10 @@ class QWidget;
 /// Top left corner of a box of this size (pixels) centred over a rectangle; halves go to the even number.
 QPoint OrtalıYer(const QRect& üst, const QSize& kutu);
 
+/// Where a window stands with its frame; pixels. The widget's own answer may be one from the time when the
+/// window manager was putting the frame around it.
+QRect ÇerçeveliYer(const QWidget& pencere);
+
 /// Puts a window that is about to be shown at a place that depends on its size with the frame, which is
 /// known only once the window stands on the screen: it is guessed before, and put right then. A window
 /// larger than the free area of its screen is made as small as that.

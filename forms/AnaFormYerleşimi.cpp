@@ -4,6 +4,7 @@
 
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
+#include "app/PencereYeri.h"
 
 #include <QMoveEvent>
 #include <QResizeEvent>
@@ -126,7 +127,7 @@ PencereDurumu AnaForm::pencereDurumu() const
 
 void AnaForm::Form_Resize()
 {
-    yerleşen_ = frameGeometry().size();
+    yerleşen_ = ÇerçeveliYer(*this).size();
     if (enAzBoy().boundedTo(yerleşen_) == enAzBoy())
         AdımAdım([this] { yerleştir(FormTwipi(yerleşen_.width()), FormTwipi(yerleşen_.height())); });
     enAzBoyuUygula();
@@ -136,7 +137,7 @@ void AnaForm::Form_Resize()
 // toolkit itself enlarges a window that is smaller.
 void AnaForm::enAzBoyuUygula()
 {
-    const QSize çerçeve = frameGeometry().size() - size();
+    const QSize çerçeve = ÇerçeveliYer(*this).size() - size();
     setMinimumSize(enAzBoy() - çerçeve);
 }
 
@@ -149,7 +150,7 @@ void AnaForm::resizeEvent(QResizeEvent* olay)
 void AnaForm::moveEvent(QMoveEvent* olay)
 {
     QMainWindow::moveEvent(olay);
-    if (frameGeometry().size() != yerleşen_) // the frame has come or gone
+    if (ÇerçeveliYer(*this).size() != yerleşen_) // the frame has come or gone
         Form_Resize();
 }
 
@@ -159,9 +160,12 @@ void AnaForm::Sınırla_Timer()
         return;
     AdımAdım([this] {
         const QSize ekran = screen()->virtualGeometry().size();
-        const QRect yer = frameGeometry();
-        move(Piksel(SınırlıKonum(Twip(yer.x()), Twip(ekran.width()), Twip(yer.width()), Eksen::Yatay)),
-             Piksel(SınırlıKonum(Twip(yer.y()), Twip(ekran.height()), Twip(yer.height()), Eksen::Dikey)));
+        const QRect yer = ÇerçeveliYer(*this);
+        const QPoint uygun(
+            Piksel(SınırlıKonum(Twip(yer.x()), Twip(ekran.width()), Twip(yer.width()), Eksen::Yatay)),
+            Piksel(SınırlıKonum(Twip(yer.y()), Twip(ekran.height()), Twip(yer.height()), Eksen::Dikey)));
+        if (uygun != yer.topLeft())
+            setGeometry(geometry().translated(uygun - yer.topLeft()));
     });
 }
 
