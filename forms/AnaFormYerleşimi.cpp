@@ -45,6 +45,14 @@ void koy(QWidget& kontrol, const Kutu& kutu)
                         FormPikseli(kutu.yükseklik));
 }
 
+/// A label ends where its control begins, also where both are rounded.
+void etiketiKoy(QLabel& etiket, const Kutu& kutu)
+{
+    etiket.setGeometry(
+        QRect(QPoint(FormPikseli(kutu.sol), FormPikseli(kutu.üst)),
+              QPoint(FormPikseli(kutu.sol + kutu.genişlik) - 1, FormPikseli(kutu.üst + kutu.yükseklik) - 1)));
+}
+
 } // namespace
 
 void AnaForm::yerleştir(int genişlik, int yükseklik)
@@ -107,10 +115,10 @@ void AnaForm::yerleştir(int genişlik, int yükseklik)
     koy(TemizleButonu, temizle);
     koy(TümündeBulButonu, tümünde);
     koy(ÇıkışButonu, çıkış);
-    koy(ToplamYazarSayısıEtiketi, yazarToplamı);
-    koy(ToplamMakaleSayısıEtiketi, makaleToplamı);
+    etiketiKoy(ToplamYazarSayısıEtiketi, yazarToplamı);
+    etiketiKoy(ToplamMakaleSayısıEtiketi, makaleToplamı);
     for (std::size_t i = 0; i < Etiket.size(); ++i)
-        koy(Etiket[i], etiket[i]);
+        etiketiKoy(Etiket[i], etiket[i]);
 }
 
 QSize AnaForm::enAzBoy()
