@@ -18,6 +18,7 @@ constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00,
 constexpr Renk SistemRengi = 0x80000000;
 constexpr double TwipİnçBaşına = 1440.0;
 constexpr double OlağanNokta = 96.0;
+double formYazıBoyutu = OlağanYazıBoyutu;
 constexpr double EnAzKarşıtlık = 4.5; // WCAG 2.1, success criterion 1.4.3
 
 template<class Tablo> auto tablodan(const Tablo& tablo, qint16 sıra)
@@ -30,6 +31,12 @@ double nokta()
 {
     const QScreen* ekran = QGuiApplication::primaryScreen();
     return ekran ? ekran->logicalDotsPerInch() : OlağanNokta;
+}
+
+/// What the measures of windows are multiplied by.
+double büyütme()
+{
+    return std::max(formYazıBoyutu / OlağanYazıBoyutu, 1.0);
 }
 
 /// Relative luminance, as WCAG 2.1 defines it.
@@ -100,9 +107,19 @@ void ZeminVer(QWidget& kontrol, const QColor& zemin)
     kontrol.setPalette(palet);
 }
 
-QFont FormYazıTipi()
+void FormÖlçüsünüKur(const QFont& masaüstü, const QSize& enAzBoy)
 {
-    QFont yazıTipi(QStringLiteral("Liberation Sans"), 9);
+    const QSize alan = QGuiApplication::primaryScreen()->availableSize();
+    const double sığan = std::min(Twip(alan.width()) / double(enAzBoy.width()),
+                                  Twip(alan.height()) / double(enAzBoy.height()));
+    const double boyut = masaüstü.pointSizeF() > 0 ? masaüstü.pointSizeF() : QFontInfo(masaüstü).pointSizeF();
+    formYazıBoyutu = std::min(boyut, OlağanYazıBoyutu * std::max(sığan, 1.0));
+}
+
+QFont FormYazıTipi(double nokta)
+{
+    QFont yazıTipi(QStringLiteral("Liberation Sans"));
+    yazıTipi.setPointSizeF(nokta * formYazıBoyutu / OlağanYazıBoyutu);
     yazıTipi.setStyleHint(QFont::SansSerif);
     return yazıTipi;
 }
@@ -120,4 +137,14 @@ int Piksel(double twip)
 int Twip(int piksel)
 {
     return static_cast<int>(std::lround(piksel * TwipİnçBaşına / nokta()));
+}
+
+int FormPikseli(double twip)
+{
+    return Piksel(twip * büyütme());
+}
+
+int FormTwipi(int piksel)
+{
+    return static_cast<int>(std::lround(piksel * TwipİnçBaşına / nokta() / büyütme()));
 }

@@ -31,12 +31,25 @@ QColor OkunurTon(const QColor& renk, const QColor& zemin);
 /// Gives a field a background, and letters in black or white, whichever reads better on it.
 void ZeminVer(QWidget& kontrol, const QColor& zemin);
 
-/// The font of the windows' own controls; its sizes are laid out for it.
-QFont FormYazıTipi();
+/// The size (points) of the windows' own letters that their measures are made for.
+inline constexpr double OlağanYazıBoyutu = 9;
+
+/// Lets the windows follow the desktop's letters: theirs get its size, and with larger ones all measures
+/// grow. They grow only as far as a window of the given size (twips, at the usual size of letters) still
+/// fits into the screen's free area; with smaller ones the measures stay.
+/// To be called before the first window is made; without it letters have their usual size.
+void FormÖlçüsünüKur(const QFont& masaüstü, const QSize& enAzBoy);
+
+/// The font of the windows' own controls.
+/// @param nokta what its size is where the usual letters have their usual size
+QFont FormYazıTipi(double nokta = OlağanYazıBoyutu);
 /// Its family: the one that it has here where its own is not installed.
 QString FormYazıTipiAdı();
 
-/// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots, more dots where the user
-/// has larger text, so that windows grow with their fonts.
+/// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots. These are for places on the
+/// screen.
 int Piksel(double twip);
 int Twip(int piksel);
+/// These are for the measures of windows and controls, which grow with the letters.
+int FormPikseli(double twip);
+int FormTwipi(int piksel);

@@ -18,6 +18,6 @@ QIcon ProgramSimgesi()
 
 void ProgramResmiKoy(QLabel& kutu, int boy)
 {
-    const int piksel = Piksel(boy);
+    const int piksel = FormPikseli(boy);
     kutu.setPixmap(ProgramSimgesi().pixmap(QSize(piksel, piksel), kutu.devicePixelRatioF()));
 }

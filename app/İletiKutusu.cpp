@@ -5,10 +5,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
-#include <QTimer>
-
-#include <cmath>
 
 namespace {
 
@@ -27,20 +23,7 @@ QMessageBox::Icon kutuSimgesi(İletiSimgesi simge)
     return QMessageBox::Critical;
 }
 
-QRect üstDikdörtgen(const QWidget* pencere)
-{
-    return pencere ? pencere->frameGeometry() : QGuiApplication::primaryScreen()->geometry();
-}
-
 } // namespace
-
-QPoint OrtalıYer(const QRect& üst, const QSize& kutu)
-{
-    const auto orta = [](int başlangıç, int uzunluk, int boy) {
-        return static_cast<int>(std::nearbyint(başlangıç + uzunluk / 2.0 - boy / 2.0));
-    };
-    return {orta(üst.x(), üst.width(), kutu.width()), orta(üst.y(), üst.height(), kutu.height())};
-}
 
 İletiYanıtı İletiGöster(const QString& metin, İletiSimgesi simge, İletiDüğmeleri düğmeler, İletiYeri yer)
 {
@@ -61,14 +44,6 @@ QPoint OrtalıYer(const QRect& üst, const QSize& kutu)
         kutu.setDefaultButton(düğmeler == İletiDüğmeleri::EvetHayır ? QMessageBox::Yes : QMessageBox::No);
     }
     kutu.setWindowModality(Qt::ApplicationModal);
-
-    // The frame's size is known only once the box is on the screen: place it before by its own size, so
-    // that it does not jump, and again then.
-    const QRect üst = üstDikdörtgen(etkin);
-    kutu.ensurePolished();
-    kutu.adjustSize();
-    kutu.move(OrtalıYer(üst, kutu.sizeHint()));
-    QTimer::singleShot(0, &kutu, [&kutu, üst] { kutu.move(OrtalıYer(üst, kutu.frameGeometry().size())); });
 
     switch (kutu.exec()) {
     case QMessageBox::Yes:

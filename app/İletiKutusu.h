@@ -1,9 +1,6 @@
-// Message boxes: composed, centred and asked in one place.
+// Message boxes: composed and asked in one place.
 #pragma once
 
-#include <QPoint>
-#include <QRect>
-#include <QSize>
 #include <QString>
 
 enum class İletiSimgesi
@@ -31,10 +28,7 @@ enum class İletiYeri
     Ekran
 };
 
-/// Shows a modal box titled with the program's name and waits for the answer. Closing the box answers
-/// Hayır where there is a choice.
+/// Shows a modal box titled with the program's name, owned by the active window or standing on the screen
+/// alone, and waits for the answer. Closing the box answers Hayır where there is a choice.
 İletiYanıtı İletiGöster(const QString& metin, İletiSimgesi simge, İletiDüğmeleri düğmeler,
                         İletiYeri yer = İletiYeri::EtkinPencere);
-
-/// Top left corner of a box of this size (pixels) centred over a rectangle; halves go to the even number.
-QPoint OrtalıYer(const QRect& üst, const QSize& kutu);

@@ -16,6 +16,12 @@ void EtiketiKur(QLabel& etiket, std::size_t sıra, const QString& yazı)
 {
     etiket.setObjectName(QStringLiteral("Etiket%1").arg(sıra));
     etiket.setText(yazı);
+    // The underlined letter is drawn apart from its neighbours: a width with kerning would be too small.
+    if (yazı.contains(u'&')) {
+        QFont yazıTipi;
+        yazıTipi.setKerning(false);
+        etiket.setFont(yazıTipi);
+    }
 }
 
 void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)

@@ -5,6 +5,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/PencereYeri.h"
 #include "controls/Etiketler.h"
 
 #include <QApplication>
@@ -33,7 +34,8 @@ AnaForm::AnaForm() : yüzey_(new QWidget(this))
     menüleriKur();
     sekmeSırasıKur();
     olaylarıBağla();
-    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+    resize(QSize(FormPikseli(OlağanGenişlik), FormPikseli(OlağanYükseklik))
+               .boundedTo(screen()->availableSize()));
 }
 
 AnaForm::~AnaForm() = default;
@@ -146,14 +148,10 @@ void AnaForm::Göster(const std::function<void()>& yüklendi)
     Form_Load();
     if (bitti_) // the system ended the program meanwhile
         return;
-    const QPoint yer = pos();
-    const bool olağan = !isMaximized();
     show();
     QCoreApplication::processEvents();
     if (bitti_)
         return;
-    if (olağan) // a position given before the window has its frame is off by the frame
-        move(yer);
     if (yüklendi)
         yüklendi();
     ÖneGetir();
@@ -213,12 +211,14 @@ void AnaForm::pencereDurumunuOku()
         return;
     }
     setWindowState(Qt::WindowNoState);
-    const QSize ekran = screen()->virtualGeometry().size();
-    const auto konum = [](SayıAnahtarı ayar, int ekranBoyu, int boy) {
-        const double sayı = AyarOku(ayar, (Twip(ekranBoyu) - Twip(boy)) / 2);
-        return Piksel(std::clamp(sayı, -EnUzakKonum, EnUzakKonum));
-    };
-    move(konum(Ayarlar::Sol, ekran.width(), width()), konum(Ayarlar::Üst, ekran.height(), height()));
+    PencereyiKoy(*this, [ekran = screen()->virtualGeometry().size()](const QSize& boy) {
+        const auto konum = [](SayıAnahtarı ayar, int ekranBoyu, int pencereBoyu) {
+            const double sayı = AyarOku(ayar, (Twip(ekranBoyu) - Twip(pencereBoyu)) / 2);
+            return Piksel(std::clamp(sayı, -EnUzakKonum, EnUzakKonum));
+        };
+        return QPoint(konum(Ayarlar::Sol, ekran.width(), boy.width()),
+                      konum(Ayarlar::Üst, ekran.height(), boy.height()));
+    });
 }
 
 void AnaForm::görünümAyarlarınıOku()

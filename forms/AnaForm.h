@@ -43,7 +43,8 @@ enum class PencereDurumu
 class AnaForm : public QMainWindow
 {
 public:
-    static constexpr int EnAzGenişlik = 9720; ///< outer width and height that the window never goes below
+    /// Outer width and height that the window never goes below; more with larger letters.
+    static constexpr int EnAzGenişlik = 9720;
     static constexpr int EnAzYükseklik = 7200;
 
     AnaForm();
@@ -158,7 +159,7 @@ private:
     void yerleştir(int genişlik, int yükseklik);
     void enAzBoyuUygula();
     void Sınırla_Timer();
-    QSize dışBoy() const;
+    static QSize enAzBoy();
     PencereDurumu pencereDurumu() const;
 
     // Exit
@@ -196,5 +197,5 @@ private:
     int doldurma_ = 0;               // number of the newest filling of the article list; an older one stops
     bool soruluyor_ = false;         // the exit question stands on the screen
     bool bitti_ = false;             // the exit sequence has run
-    QSize yerleşen_;                 // outer size in twips that the controls were last laid out for
+    QSize yerleşen_;                 // outer size in pixels that the controls were last laid out for
 };

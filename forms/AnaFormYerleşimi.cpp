@@ -1,8 +1,10 @@
-// The main window's size and the places of its controls. All measures are twips.
+// The main window's size and the places of its controls. All measures are twips; those of the controls grow
+// with the letters.
 #include "forms/AnaForm.h"
 
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
+#include "app/PencereYeri.h"
 
 #include <QMoveEvent>
 #include <QResizeEvent>
@@ -39,7 +41,16 @@ struct Kutu
 
 void koy(QWidget& kontrol, const Kutu& kutu)
 {
-    kontrol.setGeometry(Piksel(kutu.sol), Piksel(kutu.üst), Piksel(kutu.genişlik), Piksel(kutu.yükseklik));
+    kontrol.setGeometry(FormPikseli(kutu.sol), FormPikseli(kutu.üst), FormPikseli(kutu.genişlik),
+                        FormPikseli(kutu.yükseklik));
+}
+
+/// A label ends where its control begins, also where both are rounded.
+void etiketiKoy(QLabel& etiket, const Kutu& kutu)
+{
+    etiket.setGeometry(
+        QRect(QPoint(FormPikseli(kutu.sol), FormPikseli(kutu.üst)),
+              QPoint(FormPikseli(kutu.sol + kutu.genişlik) - 1, FormPikseli(kutu.üst + kutu.yükseklik) - 1)));
 }
 
 } // namespace
@@ -104,15 +115,15 @@ void AnaForm::yerleştir(int genişlik, int yükseklik)
     koy(TemizleButonu, temizle);
     koy(TümündeBulButonu, tümünde);
     koy(ÇıkışButonu, çıkış);
-    koy(ToplamYazarSayısıEtiketi, yazarToplamı);
-    koy(ToplamMakaleSayısıEtiketi, makaleToplamı);
+    etiketiKoy(ToplamYazarSayısıEtiketi, yazarToplamı);
+    etiketiKoy(ToplamMakaleSayısıEtiketi, makaleToplamı);
     for (std::size_t i = 0; i < Etiket.size(); ++i)
-        koy(Etiket[i], etiket[i]);
+        etiketiKoy(Etiket[i], etiket[i]);
 }
 
-QSize AnaForm::dışBoy() const
+QSize AnaForm::enAzBoy()
 {
-    return {Twip(frameGeometry().width()), Twip(frameGeometry().height())};
+    return {FormPikseli(EnAzGenişlik), FormPikseli(EnAzYükseklik)};
 }
 
 PencereDurumu AnaForm::pencereDurumu() const
@@ -124,9 +135,9 @@ PencereDurumu AnaForm::pencereDurumu() const
 
 void AnaForm::Form_Resize()
 {
-    yerleşen_ = dışBoy();
-    if (yerleşen_.width() >= EnAzGenişlik && yerleşen_.height() >= EnAzYükseklik)
-        AdımAdım([this] { yerleştir(yerleşen_.width(), yerleşen_.height()); });
+    yerleşen_ = ÇerçeveliYer(*this).size();
+    if (enAzBoy().boundedTo(yerleşen_) == enAzBoy())
+        AdımAdım([this] { yerleştir(FormTwipi(yerleşen_.width()), FormTwipi(yerleşen_.height())); });
     enAzBoyuUygula();
 }
 
@@ -134,8 +145,8 @@ void AnaForm::Form_Resize()
 // toolkit itself enlarges a window that is smaller.
 void AnaForm::enAzBoyuUygula()
 {
-    const QSize çerçeve = frameGeometry().size() - size();
-    setMinimumSize(QSize(Piksel(EnAzGenişlik), Piksel(EnAzYükseklik)) - çerçeve);
+    const QSize çerçeve = ÇerçeveliYer(*this).size() - size();
+    setMinimumSize(enAzBoy() - çerçeve);
 }
 
 void AnaForm::resizeEvent(QResizeEvent* olay)
@@ -147,7 +158,7 @@ void AnaForm::resizeEvent(QResizeEvent* olay)
 void AnaForm::moveEvent(QMoveEvent* olay)
 {
     QMainWindow::moveEvent(olay);
-    if (dışBoy() != yerleşen_) // the frame has come or gone
+    if (ÇerçeveliYer(*this).size() != yerleşen_) // the frame has come or gone
         Form_Resize();
 }
 
@@ -157,8 +168,12 @@ void AnaForm::Sınırla_Timer()
         return;
     AdımAdım([this] {
         const QSize ekran = screen()->virtualGeometry().size();
-        move(Piksel(SınırlıKonum(Twip(pos().x()), Twip(ekran.width()), dışBoy().width(), Eksen::Yatay)),
-             Piksel(SınırlıKonum(Twip(pos().y()), Twip(ekran.height()), dışBoy().height(), Eksen::Dikey)));
+        const QRect yer = ÇerçeveliYer(*this);
+        const QPoint uygun(
+            Piksel(SınırlıKonum(Twip(yer.x()), Twip(ekran.width()), Twip(yer.width()), Eksen::Yatay)),
+            Piksel(SınırlıKonum(Twip(yer.y()), Twip(ekran.height()), Twip(yer.height()), Eksen::Dikey)));
+        if (uygun != yer.topLeft())
+            setGeometry(geometry().translated(uygun - yer.topLeft()));
     });
 }
 

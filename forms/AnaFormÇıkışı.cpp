@@ -6,6 +6,7 @@
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/PencereYeri.h"
 #include "app/İletiKutusu.h"
 #include "forms/EkleFormu.h"
 #include "store/MakaleKitaplığı.h"
@@ -75,8 +76,9 @@ void AnaForm::oturumuBitir()
         },
         [this] {
             if (pencereDurumu() == PencereDurumu::Olağan) {
-                AyarYaz(Ayarlar::Sol, Twip(pos().x()));
-                AyarYaz(Ayarlar::Üst, Twip(pos().y()));
+                const QPoint yer = ÇerçeveliYer(*this).topLeft();
+                AyarYaz(Ayarlar::Sol, Twip(yer.x()));
+                AyarYaz(Ayarlar::Üst, Twip(yer.y()));
             }
         },
         [this] {

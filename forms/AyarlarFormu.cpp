@@ -50,6 +50,7 @@ void AyarlarFormu::kontrolleriKur()
     İlkAyarlarButonu.setObjectName(QStringLiteral("İlkAyarlarButonu"));
     TamamButonu.setObjectName(QStringLiteral("TamamButonu"));
     İptalButonu.setObjectName(QStringLiteral("İptalButonu"));
+    YardımButonu.setObjectName(QStringLiteral("YardımButonu"));
 
     EtiketiKur(Etiket[0], 0, 245, YazıTipiListesi);
     EtiketiKur(Etiket[1], 1, 250, YazıTipiBoyutuListesi);
@@ -57,6 +58,7 @@ void AyarlarFormu::kontrolleriKur()
     İlkAyarlarButonu.setText(Metin(270));
     TamamButonu.setText(Metin(275));
     İptalButonu.setText(Metin(280));
+    YardımButonu.setText(Metin(120)); // nothing answers it yet
     TamamButonu.setDefault(true);
 
     // Only looked at: it takes no focus.
@@ -72,7 +74,7 @@ void AyarlarFormu::yerleştir()
 {
     QFont enBüyük = font();
     enBüyük.setPointSize(YazıBoyutu(EnBüyükSıra));
-    ÖrnekMetinKutusu.setMinimumSize(Piksel(ÖrnekGenişliği),
+    ÖrnekMetinKutusu.setMinimumSize(FormPikseli(ÖrnekGenişliği),
                                     ÖrnekSatırı * QFontMetrics(enBüyük).lineSpacing());
     auto* örnek = new QVBoxLayout(&Çerçeve);
     örnek->addWidget(&ÖrnekMetinKutusu);
@@ -82,11 +84,12 @@ void AyarlarFormu::yerleştir()
     düğmeler->addStretch();
     düğmeler->addWidget(&TamamButonu);
     düğmeler->addWidget(&İptalButonu);
+    düğmeler->addWidget(&YardımButonu);
 
     auto* ızgara = new QGridLayout(&Altlık);
     int satır = 0;
     for (AçılırListe* liste : {&YazıTipiListesi, &YazıTipiBoyutuListesi, &ZeminRengiListesi}) {
-        liste->setMinimumWidth(Piksel(ListeGenişliği));
+        liste->setMinimumWidth(FormPikseli(ListeGenişliği));
         ızgara->addWidget(&Etiket[static_cast<std::size_t>(satır)], satır, 0);
         ızgara->addWidget(liste, satır++, 1);
     }

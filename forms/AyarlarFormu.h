@@ -45,6 +45,6 @@ private:
     AçılırListe YazıTipiBoyutuListesi{AçılırListe::Tür::YalnızSeçim};
     AçılırListe ZeminRengiListesi{AçılırListe::Tür::YalnızSeçim};
     ZenginMetinKutusu ÖrnekMetinKutusu;
-    Düğme İlkAyarlarButonu, TamamButonu, İptalButonu;
+    Düğme İlkAyarlarButonu, TamamButonu, İptalButonu, YardımButonu;
     OdakEtiketi odakEtiketi_;
 };

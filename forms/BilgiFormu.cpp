@@ -27,7 +27,7 @@ BilgiFormu::BilgiFormu(const QString& ad, int başlık) : Altlık(this), ızgara
     setWindowTitle(Metin(başlık));
     setFont(FormYazıTipi());
     Altlık.setObjectName(QStringLiteral("Altlık"));
-    const int boşluk = Piksel(İçBoşluk);
+    const int boşluk = FormPikseli(İçBoşluk);
     ızgara->setContentsMargins(boşluk, boşluk, boşluk, boşluk);
 
     setMouseTracking(true);

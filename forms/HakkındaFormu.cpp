@@ -19,8 +19,7 @@ HakkındaFormu::HakkındaFormu() : BilgiFormu(QStringLiteral("HakkındaFormu"), 
     ProgramResmiKoy(SimgeKutusu, SimgeBoyu);
     EtiketiKur(Etiket[0], 0, Metin(5) + QStringLiteral(" Programı"));
     EtiketiKur(Etiket[1], 1, SürümYazısı());
-    QFont adYazıTipi = font();
-    adYazıTipi.setPointSize(AdBoyu);
+    QFont adYazıTipi = FormYazıTipi(AdBoyu);
     adYazıTipi.setBold(true);
     Etiket[0].setFont(adYazıTipi);
     for (QLabel& etiket : Etiket) // in line with the link
@@ -28,7 +27,7 @@ HakkındaFormu::HakkındaFormu() : BilgiFormu(QStringLiteral("HakkındaFormu"), 
     bağlantıKur(WebEtiketi, QStringLiteral("WebEtiketi"), ÜreticiSitesi.toString(), ÜreticiSitesi.toString());
 
     ızgara->addWidget(&SimgeKutusu, 0, 0, 3, 1, Qt::AlignTop);
-    ızgara->setColumnMinimumWidth(1, Piksel(SimgeBoşluğu));
+    ızgara->setColumnMinimumWidth(1, FormPikseli(SimgeBoşluğu));
     ızgara->addWidget(&Etiket[0], 0, 2);
     ızgara->addWidget(&Etiket[1], 1, 2);
     ızgara->addWidget(&WebEtiketi, 2, 2);

@@ -19,7 +19,8 @@ HataBildirmeFormu::HataBildirmeFormu() : BilgiFormu(QStringLiteral("HataBildirme
     QFont yazıTipi = font();
     yazıTipi.setBold(true);
     Etiket[2].setFont(yazıTipi);
-    yazıTipi.setPointSize(BaşlıkBoyu);
+    yazıTipi = FormYazıTipi(BaşlıkBoyu);
+    yazıTipi.setBold(true);
     Etiket[0].setFont(yazıTipi);
     bağlantıKur(WebEtiketi[0], QStringLiteral("WebEtiketi0"), QStringLiteral("E-Posta Gönder"),
                 QStringLiteral("mailto:destek@tepsan.example"));
@@ -33,8 +34,8 @@ HataBildirmeFormu::HataBildirmeFormu() : BilgiFormu(QStringLiteral("HataBildirme
     }
     for (::WebEtiketi& bağlantı : WebEtiketi)
         ızgara->addWidget(&bağlantı, satır++, 1);
-    ızgara->setColumnMinimumWidth(0, Piksel(Girinti));
-    ızgara->setColumnMinimumWidth(1, Piksel(MetinGenişliği));
+    ızgara->setColumnMinimumWidth(0, FormPikseli(Girinti));
+    ızgara->setColumnMinimumWidth(1, FormPikseli(MetinGenişliği));
     connect(&KapatButonu, &QPushButton::clicked, this, &HataBildirmeFormu::KapatButonu_Click);
     bitir(KapatButonu, QStringLiteral("KapatButonu"));
 }

@@ -3,6 +3,7 @@
 #include "app/Görünüm.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/PencereYeri.h"
 #include "app/ProgramSimgesi.h"
 
 #include <QScreen>
@@ -27,22 +28,20 @@ KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::F
     ProgramResmiKoy(SimgeKutusu, SimgeBoyu);
     AdEtiketi.setObjectName(QStringLiteral("AdEtiketi"));
     AdEtiketi.setText(Metin(5));
-    QFont adYazıTipi = font();
-    adYazıTipi.setPointSize(AdBoyu);
+    QFont adYazıTipi = FormYazıTipi(AdBoyu);
     adYazıTipi.setBold(true);
     AdEtiketi.setFont(adYazıTipi);
     SürümEtiketi.setObjectName(QStringLiteral("SürümEtiketi"));
     SürümEtiketi.setText(SürümYazısı());
 
     auto* düzen = new QVBoxLayout(this);
-    const int boşluk = Piksel(KenarBoşluğu);
+    const int boşluk = FormPikseli(KenarBoşluğu);
     düzen->setContentsMargins(boşluk, boşluk, boşluk, boşluk);
     for (QLabel* etiket : {&SimgeKutusu, &AdEtiketi, &SürümEtiketi}) {
         etiket->setAlignment(Qt::AlignCenter);
         düzen->addWidget(etiket);
     }
-    setMinimumWidth(Piksel(EnAzGenişlik));
+    setMinimumWidth(FormPikseli(EnAzGenişlik));
     adjustSize();
-    const QRect ekran = screen()->availableGeometry();
-    move(ekran.center() - rect().center());
+    move(OrtalıYer(screen()->geometry(), size()));
 }

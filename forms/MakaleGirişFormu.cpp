@@ -52,7 +52,7 @@ MakaleGirişFormu::MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adl
     connect(&yapıştır_, &QPushButton::clicked, this, [this] { İlkHatadaBit([this] { panodanYapıştır(); }); });
     connect(&dosyaYükle_, &QPushButton::clicked, this, [this] { İlkHatadaBit([this] { dosyadanYükle(); }); });
     TürkçeKarakterKümesiUygula(*this);
-    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+    resize(FormPikseli(OlağanGenişlik), FormPikseli(OlağanYükseklik));
 }
 
 std::array<QWidget*, 5> MakaleGirişFormu::alanlar()

@@ -32,7 +32,7 @@ ReferansFormu::ReferansFormu(const QString& başlık)
     connect(&WordeYapıştırButonu, &QPushButton::clicked, this, &ReferansFormu::WordeYapıştırButonu_Click);
     connect(&KapatButonu, &QPushButton::clicked, this, &ReferansFormu::KapatButonu_Click);
     TürkçeKarakterKümesiUygula(*this);
-    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+    resize(FormPikseli(OlağanGenişlik), FormPikseli(OlağanYükseklik));
     İlkHatadaBit([&] { Form_Load(başlık); });
 }
 
@@ -43,7 +43,7 @@ void ReferansFormu::kontrolleriKur()
     ReferansBilgisiKutusu.setAccessibleName(SadeMetin(505));
     ReferansBilgisiKutusu.YalnızOkunur();
     SimgeKutusu.setObjectName(QStringLiteral("SimgeKutusu"));
-    SimgeKutusu.setPixmap(windowIcon().pixmap(Piksel(SimgeBoyu)));
+    SimgeKutusu.setPixmap(windowIcon().pixmap(FormPikseli(SimgeBoyu)));
     KopyalaButonu.setObjectName(QStringLiteral("KopyalaButonu"));
     KopyalaButonu.setText(Metin(90));
     WordeYapıştırButonu.setObjectName(QStringLiteral("WordeYapıştırButonu"));

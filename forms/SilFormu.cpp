@@ -26,7 +26,7 @@ SilFormu::SilFormu(AnaForm& anaForm) : QDialog(&anaForm), anaForm_(anaForm)
     yerleştir();
     olaylarıBağla();
     TürkçeKarakterKümesiUygula(*this);
-    resize(Piksel(OlağanGenişlik), Piksel(OlağanYükseklik));
+    resize(FormPikseli(OlağanGenişlik), FormPikseli(OlağanYükseklik));
     Form_Load();
 }
 

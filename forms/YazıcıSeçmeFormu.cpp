@@ -4,6 +4,7 @@
 #include "app/HataPolitikaları.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "controls/Etiketler.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -54,13 +55,12 @@ void YazıcıSeçmeFormu::kontrolleriKur()
     Çerçeve.setObjectName(QStringLiteral("Çerçeve"));
     Çerçeve.setTitle(çerçeveYazısı);
     YazıcıAdlarıKutusu.setObjectName(QStringLiteral("YazıcıAdlarıKutusu"));
-    YazıcıAdlarıKutusu.setMinimumWidth(Piksel(KutuGenişliği));
+    YazıcıAdlarıKutusu.setMinimumWidth(FormPikseli(KutuGenişliği));
     BağlantıNoktasıKutusu.setObjectName(QStringLiteral("BağlantıNoktasıKutusu"));
     BağlantıNoktasıKutusu.setReadOnly(true);
 
     const auto etiketiKur = [this](std::size_t sıra, const QString& yazı, QWidget& kontrol) {
-        Etiket[sıra].setObjectName(QStringLiteral("Etiket%1").arg(sıra));
-        Etiket[sıra].setText(yazı);
+        EtiketiKur(Etiket[sıra], sıra, yazı);
         Etiket[sıra].setBuddy(&kontrol);
         kontrol.setAccessibleName(okunuş(yazı));
     };
@@ -74,12 +74,12 @@ void YazıcıSeçmeFormu::kontrolleriKur()
     İptalDüğmesi.setObjectName(QStringLiteral("İptalDüğmesi"));
     İptalDüğmesi.setText(iptalYazısı);
     for (QPushButton* düğme : {&TamamDüğmesi, &İptalDüğmesi})
-        düğme->setMinimumWidth(Piksel(DüğmeGenişliği));
+        düğme->setMinimumWidth(FormPikseli(DüğmeGenişliği));
 }
 
 void YazıcıSeçmeFormu::yerleştir()
 {
-    const int boşluk = Piksel(KenarBoşluğu);
+    const int boşluk = FormPikseli(KenarBoşluğu);
     auto* kutular = new QGridLayout(&Çerçeve);
     kutular->setContentsMargins(boşluk, boşluk, boşluk, boşluk);
     kutular->addWidget(&Etiket[0], 0, 0);

@@ -7,6 +7,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
+#include "app/PencereYeri.h"
 #include "app/ProgramSimgesi.h"
 #include "app/TekÖrnek.h"
 #include "app/İletiKutusu.h"
@@ -100,7 +101,9 @@ int SubMain(QApplication& uygulama)
     std::optional<KarşılamaFormu> karşılama;
     return HatadaBildirVeÇık([&] {
         diliKur(uygulama);
+        FormÖlçüsünüKur(uygulama.font(), {AnaForm::EnAzGenişlik, AnaForm::EnAzYükseklik});
         uygulama.setFont(FormYazıTipi());
+        const PencereYerleştirici yerleştirici(uygulama);
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
         AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - ") + Metin(5) + u' ' + SürümMetni();
         tekÖrnek.emplace(AnaPencereBaşlığı);

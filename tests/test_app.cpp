@@ -4,6 +4,7 @@
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/OrtakApilerModülü.h"
+#include "app/PencereYeri.h"
 #include "app/TekÖrnek.h"
 #include "app/İletiKutusu.h"
 #include "forms/AnaForm.h"

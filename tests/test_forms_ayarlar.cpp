@@ -86,8 +86,14 @@ void TestSettingsWindow::loads()
     if (!inStore.isEmpty())
         store(inStore);
     t->Göster();
+    QCOMPARE(t->Metin().FontName(), inStore.isEmpty() ? Sans : inStore[0]);
+    QTEST(t->Metin().FontSize(), "points");
+    QTEST(ground(t->Metin()), "background");
+    QTEST(t->Metin().palette().color(QPalette::Text), "letters");
     open(u"AyarlarMenüsü1"_s, [&] {
         QVERIFY(!box->parentWidget() && box->isModal() && !button(u"TamamButonu"_s).isEnabled());
+        button(u"YardımButonu"_s).click();
+        QVERIFY(box->isVisible() && button(u"YardımButonu"_s).text() == u"Yardım"_s);
         QCOMPARE(List({list(0).Text(), list(1).Text(), list(2).Text()}), selected);
         QCOMPARE(sample().FontName(), selected[0]);
         QTEST(sample().FontSize(), "points");
