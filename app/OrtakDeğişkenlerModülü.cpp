@@ -1,6 +1,16 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 
+#include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
+
+#include <cstdio>
+
+namespace {
+
+const QString DizinOnarıldıMetni =
+    QStringLiteral("Bir dizin bozuktu; tablodan yeniden yapıldı. Makaleler tamam.");
+
+} // namespace
 
 QString AnaPencereBaşlığı;
 QString AyarUygulamaAdı;
@@ -25,7 +35,8 @@ void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir)
     Motor.emplace(bildir);
     Motor->SystemDB(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu));
     ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
-    VeritabanınıSıkıştır(*Motor, ProgramKlasörü, bildir);
+    if (VeritabanınıSıkıştır(*Motor, ProgramKlasörü, bildir) != YapıDurumu::Sağlam)
+        std::fprintf(stderr, "belgenar: Makale.mde: %s\n", qUtf8Printable(DizinOnarıldıMetni));
     KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
     ÇalışmaAlanı->Close();
     ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);

@@ -36,8 +36,8 @@ Workspace DBEngine::CreateWorkspace(const QString& ad, const QString& kullanıc�
     return Workspace(std::move(grup), ad, kullanıcı);
 }
 
-void DBEngine::CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
-                               int seçenekler, const QString& kaynakYereli)
+YapıDurumu DBEngine::CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
+                                     int seçenekler, const QString& kaynakYereli)
 {
     if (hedefYereli != TürkçeYerel)
         throw VeritabanıHatası(HataNo::KitaplıkDeğil, hedefYereli);
@@ -51,31 +51,53 @@ void DBEngine::CompactDatabase(const QString& kaynak, const QString& hedef, cons
     // library is replaced.
     ÇalışmaGrubu grup(grupYolu_, AçmaKipi::OkuYaz);
     GeçiciDosya kopya(hedef);
-    const auto dene = [&](DizinKaynağı dizinler) { kopyalaVeDoğrula(kaynak, hedef, parola, grup, dizinler); };
-    try {
-        dene(DizinKaynağı::Dizinler);
-    } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() != HataNo::DosyaBozuk)
-            throw;
-        dene(DizinKaynağı::Satırlar); // if only an index is damaged, no article is lost
+    auto asıl = kitaplıkAç(kaynak, parola, AçmaKipi::OkuYaz, grup);
+    YapıDurumu durum = YapıyıDenetle(*asıl, DenetimDerinliği::Sayfalar);
+    if (durum > YapıDurumu::Okunamıyor)
+        throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak);
+    if (durum == YapıDurumu::Sağlam) {
+        try {
+            durum = kopyalaVeDoğrula(*asıl, hedef, parola, grup, DizinKaynağı::Dizinler);
+        } catch (const VeritabanıHatası& hata) {
+            if (hata.Numara() != HataNo::DosyaBozuk)
+                throw;
+            durum = YapıDurumu::Okunamıyor;
+        }
+    }
+    if (durum != YapıDurumu::Sağlam) { // if only an index is damaged, no article is lost
+        asıl.reset();                  // holds on to the copy where that failed
+        asıl = kitaplıkAç(kaynak, parola, AçmaKipi::OkuYaz, grup);
+        kopyalaVeDoğrula(*asıl, hedef, parola, grup, DizinKaynağı::Satırlar);
+        durum = YapıDurumu::DizinBozuk;
     }
     DiskeYaz(hedef);
     kopya.Kalsın();
+    return durum;
 }
 
-void DBEngine::kopyalaVeDoğrula(const QString& kaynak, const QString& hedef, const QString& parola,
-                                ÇalışmaGrubu& grup, DizinKaynağı dizinler) const
+std::unique_ptr<Bağlantı> DBEngine::kitaplıkAç(const QString& yol, const QString& parola, AçmaKipi kip,
+                                               ÇalışmaGrubu& grup) const
 {
-    qint64 satırlar = 0;
-    {
-        const auto bağlantı = KitaplıkBağlantısı(kaynak, parola, AçmaKipi::OkuYaz, grup);
-        bağlantı->İlerlemeAta(bildir_);
-        satırlar = KitaplığıKopyala(*bağlantı, hedef, parola, dizinler);
-    }
+    auto bağlantı = KitaplıkBağlantısı(yol, parola, kip, grup);
+    bağlantı->İlerlemeAta(bildir_);
+    return bağlantı;
+}
+
+/// Returns what the source's indices are worth; throws 3049, in the source's name, where its rows are not
+/// to be trusted.
+YapıDurumu DBEngine::kopyalaVeDoğrula(Bağlantı& kaynak, const QString& hedef, const QString& parola,
+                                      ÇalışmaGrubu& grup, DizinKaynağı dizinler) const
+try {
+    const qint64 satırlar = KitaplığıKopyala(kaynak, hedef, parola, dizinler);
     if (DüzMetinVeritabanı(hedef))
         throw VeritabanıHatası(HataNo::İzinYok, hedef);
-    const auto bağlantı = KitaplıkBağlantısı(hedef, parola, AçmaKipi::Oku, grup);
-    bağlantı->İlerlemeAta(bildir_);
-    if (TümSatırlarıOku(*bağlantı) != satırlar)
-        throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak);
+    const SatırToplamı okunan = TümSatırlarıOku(*kitaplıkAç(hedef, parola, AçmaKipi::Oku, grup));
+    const YapıDurumu durum = DizinleriDenetle(kaynak, okunan);
+    if (okunan.Satırlar != satırlar || durum == YapıDurumu::Bozuk)
+        throw VeritabanıHatası(HataNo::DosyaBozuk);
+    return durum;
+} catch (const VeritabanıHatası& hata) {
+    if (hata.Numara() != HataNo::DosyaBozuk)
+        throw;
+    throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak.Yol());
 }

@@ -11,8 +11,11 @@
 #include <memory>
 #include <optional>
 
+class Bağlantı;
 class ÇalışmaGrubu;
+enum class AçmaKipi;
 enum class DizinKaynağı;
+enum class YapıDurumu;
 
 /// What CompactDatabase may be asked for; the copy is always encrypted, so that is the only choice.
 constexpr int dbEncrypt = 2;
@@ -41,16 +44,20 @@ public:
     /// Copies the library into a new, freshly ordered, encrypted and verified file; the source's bytes
     /// stay as they are but for the roll-back of what a crash left. The copy has been written to disk
     /// when this returns; on failure none is left behind. Throws 3204 when the target exists, 3049 when
-    /// any row of the source can't be read whole, 3026, 3027, 3031 and what opening throws.
+    /// any row of the source can't be read whole or its pages contradict each other, 3026, 3027, 3031 and
+    /// what opening throws.
+    /// @return YapıDurumu::DizinBozuk where a damaged index was made anew from the table, else Sağlam
     /// @param hedefYereli ";LANGID=0x041F;CP=1254;COUNTRY=0", the only collation there is (else 3343)
     /// @param seçenekler dbEncrypt; there are no plain-text libraries, so anything else is 3051
     /// @param kaynakYereli connect string of the source, ";Pwd=..."; the copy keeps that password
-    void CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
-                         int seçenekler, const QString& kaynakYereli);
+    YapıDurumu CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
+                               int seçenekler, const QString& kaynakYereli);
 
 private:
-    void kopyalaVeDoğrula(const QString& kaynak, const QString& hedef, const QString& parola,
-                          ÇalışmaGrubu& grup, DizinKaynağı dizinler) const;
+    std::unique_ptr<Bağlantı> kitaplıkAç(const QString& yol, const QString& parola, AçmaKipi kip,
+                                         ÇalışmaGrubu& grup) const;
+    YapıDurumu kopyalaVeDoğrula(Bağlantı& kaynak, const QString& hedef, const QString& parola,
+                                ÇalışmaGrubu& grup, DizinKaynağı dizinler) const;
 
     İlerlemeBildirimi bildir_;
     QString grupYolu_;

@@ -193,20 +193,23 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
     return satırlar;
 }
 
-qint64 TümSatırlarıOku(Bağlantı& kitaplık)
+SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık)
 {
-    qint64 satırlar = 0;
-    Deyim deyim(kitaplık, "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
+    constexpr int Kimlik = int(MakaleSütunları.size());
+    SatırToplamı toplam;
+    Deyim deyim(kitaplık, "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni, Kimlik"
                           " FROM Makaleler NOT INDEXED");
-    for (; deyim.Adım(); ++satırlar) {
-        for (int sütun = 0; sütun < int(MakaleSütunları.size()); ++sütun)
-            deyim.Yazı(sütun);
+    while (deyim.Adım()) {
+        for (int sütun = 0; sütun < Kimlik; ++sütun)
+            SağlamDeğer(deyim, sütun);
+        toplam.Ekle(deyim.Baytlar(0), deyim.Baytlar(1), deyim.Sayı(Kimlik));
     }
     for (const char* dizin : DizinAdları) {
-        if (kitaplık.Sayı(QByteArray("SELECT count(*) FROM Makaleler INDEXED BY ") + dizin) != satırlar)
+        if (kitaplık.Sayı(QByteArray("SELECT count(*) FROM Makaleler INDEXED BY ") + dizin) !=
+            toplam.Satırlar)
             throw VeritabanıHatası(HataNo::DosyaBozuk, kitaplık.Yol());
     }
-    return satırlar;
+    return toplam;
 }
 
 void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/Bağlantı.h"
+#include "store/KitaplıkYapısı.h"
 
 #include <QString>
 
@@ -45,10 +46,9 @@ enum class DizinKaynağı
 /// on failure. Returns the number of rows.
 qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler);
 
-/// Reads every value of every row. Throws 3049 when one can't be read whole or holds NUL, as what a
-/// damaged page deciphers to, and when an index has not as many entries as there are rows. Returns the
-/// number of rows.
-qint64 TümSatırlarıOku(Bağlantı& kitaplık);
+/// Reads every value of every row. Throws 3049 when one is no whole text (SağlamDeğer), and when an index
+/// has not as many entries as there are rows. Returns the rows' sum, for DizinleriDenetle.
+SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık);
 
 /// Replaces the library by a copy of the new file, at no moment leaving a half file under its name; where
 /// the disk has no room for a copy, the new file itself becomes the library. Follows a symbolic link and

@@ -73,7 +73,8 @@ Workspace KullanıcıÇalışmaAlanı(DBEngine& motor)
     return motor.CreateWorkspace({}, KullanıcıAdı, KullanıcıParolası);
 }
 
-void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir)
+YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
+                                const DBEngine::İlerlemeBildirimi& bildir)
 {
     const QString kitaplık = KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı);
     const QString kopya = KitaplıkYolu(klasör, KitaplıkDosyaları::Kopya);
@@ -81,20 +82,22 @@ void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const D
     YalnızSahibineAç(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
     const auto sıkıştır = [&] {
         DosyayıSil(yeni);
-        motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);
+        return motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);
     };
+    YapıDurumu durum{};
     // The last start's copy goes only when a new one is whole: if the library turns out to be damaged, it
     // is the last good one. Where the disk has no room for both it must make room.
     try {
-        sıkıştır();
+        durum = sıkıştır();
     } catch (const VeritabanıHatası& hata) {
         if (hata.Numara() != HataNo::DiskDolu || !QFileInfo::exists(kopya))
             throw;
         DosyayıSil(kopya);
-        sıkıştır();
+        durum = sıkıştır();
     }
     DosyayıTaşı(yeni, kopya);
     DosyayıYerineKoy(kopya, kitaplık, bildir);
+    return durum;
 }
 
 void KullanıcıHesabınıHazırla(const Workspace& sahip)

@@ -31,8 +31,9 @@ Workspace SahipÇalışmaAlanı(DBEngine& motor);
 Workspace KullanıcıÇalışmaAlanı(DBEngine& motor);
 
 /// Replaces the library by a compacted copy of itself, and makes its files readable for their owner only.
-/// Whatever fails, the library file stands as it was.
-void VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir);
+/// Whatever fails, the library file stands as it was. Returns what CompactDatabase returned.
+YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
+                                const DBEngine::İlerlemeBildirimi& bildir);
 
 /// Makes sure that the user account exists; it stands already where the last run ended abnormally.
 void KullanıcıHesabınıHazırla(const Workspace& sahip);

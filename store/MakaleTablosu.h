@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <QStringView>
 
 #include <array>
@@ -36,6 +37,9 @@ constexpr const SütunTanımı& Tanım(MakaleSütunu sütun)
 {
     return MakaleSütunları[static_cast<std::size_t>(sütun)];
 }
+
+/// The columns' values of one article.
+using MakaleDeğerleri = std::array<QString, MakaleSütunları.size()>;
 
 /// Written into the file's header; a file of a higher version is refused.
 inline constexpr int KitaplıkSürümü = 1;

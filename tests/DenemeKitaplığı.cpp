@@ -17,7 +17,7 @@ Açılış::Açılış(const QString& klasör, const DBEngine::İlerlemeBildirim
 {
     Motor.SystemDB(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
     const Workspace sahip = SahipÇalışmaAlanı(Motor);
-    VeritabanınıSıkıştır(Motor, klasör, bildir);
+    Durum = VeritabanınıSıkıştır(Motor, klasör, bildir);
     KullanıcıHesabınıHazırla(sahip);
     Alan = KullanıcıÇalışmaAlanı(Motor);
     Veritabanı = KitaplıkAç(*Alan, klasör);

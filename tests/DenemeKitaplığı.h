@@ -1,6 +1,7 @@
 // What the store's tests share: a temporary program folder with a library in it, and the start sequence.
 #pragma once
 
+#include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
 
 #include <QMap>
@@ -32,6 +33,7 @@ struct Açılış
 {
     explicit Açılış(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir = {});
     DBEngine Motor;
+    YapıDurumu Durum; ///< what the compaction found
     std::optional<Workspace> Alan;
     std::optional<Database> Veritabanı;
 };

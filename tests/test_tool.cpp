@@ -2,6 +2,7 @@
 #include "DenemeKitaplığı.h"
 
 #include "store/Bağlantı.h"
+#include "store/Utf8Denetimi.h"
 
 #include <QFile>
 #include <QProcess>
@@ -173,6 +174,17 @@ private slots:
         }
         DosyaYaz(klasör_ + u"Makale.mde"_s, DosyaOku(klasör_ + u"Makale.mde"_s) + "x");
         denetim(1, "Makale.mde: 3049: Dosyanın sonunda");
+        QCOMPARE(HataNumarası([&] { Açılış{klasör_}; }), 3049);
+    }
+
+    void wholeUtf8()
+    {
+        const QByteArray düz = u"aş€😀\ud7ff\ue000\u0800\U0010ffff"_s.repeated(2).toUtf8();
+        for (qsizetype i = 0; i < düz.size() * 256; ++i) {
+            QByteArray metin = düz.left(düz.size() - i % 3);
+            metin[i / 256 % metin.size()] = char(i);
+            QVERIFY2(Utf8Geçerli(metin.toStdString()) == metin.isValidUtf8(), metin.toHex());
+        }
     }
 };
 
