@@ -4,6 +4,7 @@
 #include "store/MakaleKitaplığı.h"
 #include "store/SistemHatası.h"
 #include "tools/AraçHatası.h"
+#include "tools/Durdurma.h"
 #include "tools/JsonSatırları.h"
 #include "tools/Uçbirim.h"
 
@@ -11,8 +12,8 @@
 
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <new>
+#include <optional>
 
 namespace {
 
@@ -49,39 +50,6 @@ Yazar adı ile başlık boş olamaz. Boş satırlar atlanır.
 Komutlar olustur, dok ve --yardim diye de yazılabilir.
 )");
 
-volatile std::sig_atomic_t durdurma = 0;
-
-/// While it lives, an interruption is noted instead of ending the process; a second one ends it.
-class DurdurmaBekçisi
-{
-public:
-    DurdurmaBekçisi()
-    {
-        struct sigaction eylem = {};
-        eylem.sa_handler = [](int) { durdurma = 1; };
-        eylem.sa_flags = static_cast<int>(SA_RESETHAND);
-        for (std::size_t i = 0; i < İşaretler.size(); ++i)
-            sigaction(İşaretler[i], &eylem, &eskiler_[i]);
-    }
-    ~DurdurmaBekçisi()
-    {
-        for (std::size_t i = 0; i < İşaretler.size(); ++i)
-            sigaction(İşaretler[i], &eskiler_[i], nullptr);
-    }
-    DurdurmaBekçisi(const DurdurmaBekçisi&) = delete;
-    DurdurmaBekçisi& operator=(const DurdurmaBekçisi&) = delete;
-
-    void Bak() const
-    {
-        if (durdurma)
-            throw AraçHatası(QStringLiteral("İşlem durduruldu; kitaplık değişmedi."));
-    }
-
-private:
-    static constexpr std::array<int, 3> İşaretler = {SIGINT, SIGTERM, SIGHUP};
-    std::array<struct sigaction, 3> eskiler_ = {};
-};
-
 QString klasörYolu(const QString& klasör)
 {
     YolGeçerliOlmalı(klasör);
@@ -115,34 +83,20 @@ int oluştur(const QStringList& değişkenler)
     return Başarılı;
 }
 
-/// The next article. An interruption can also cut the line short that is being read: then it is what ends
-/// the work, not the line.
-std::optional<Makale> sonrakiMakale(JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
-{
-    try {
-        auto makale = satırlar.Sonraki();
-        bekçi.Bak();
-        return makale;
-    } catch (const AraçHatası&) {
-        bekçi.Bak();
-        throw;
-    }
-}
-
-void satırlarıDenetle(JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
+void satırlarıDenetle(JsonSatırları& satırlar)
 {
     İlerleme ilerleme(QStringLiteral("Satırlar denetleniyor"));
-    while (sonrakiMakale(satırlar, bekçi))
+    while (satırlar.Sonraki())
         ilerleme.Göster(satırlar.Konum(), satırlar.Boy());
     satırlar.BaşaDön();
 }
 
 /// Returns the number of articles appended.
-qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar, const DurdurmaBekçisi& bekçi)
+qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar)
 {
     İlerleme ilerleme(QStringLiteral("Makaleler aktarılıyor"));
     Recordset kayıtlar = veritabanı.OpenRecordset(EklemeSorgusu);
-    while (const auto makale = sonrakiMakale(satırlar, bekçi)) {
+    while (const auto makale = satırlar.Sonraki()) {
         kayıtlar.AddNew();
         for (std::size_t i = 0; i < makale->size(); ++i)
             kayıtlar.Fields(MakaleSütunları[i].ad).Value((*makale)[i]);
@@ -156,13 +110,15 @@ qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar, c
 int aktar(const QStringList& değişkenler)
 {
     const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]), KitaplıkAç);
-    JsonSatırları satırlar(değişkenler[1]);
     const DurdurmaBekçisi bekçi;
+    JsonSatırları satırlar(değişkenler[1], bekçi);
     if (!satırlar.BirKezOkunur()) // else a bad line rolls back what came before it
-        satırlarıDenetle(satırlar, bekçi);
+        satırlarıDenetle(satırlar);
     qint64 eklenen = 0;
-    kitaplık.veritabanı->TekİşlemdeYap(
-        [&] { eklenen = makaleleriEkle(*kitaplık.veritabanı, satırlar, bekçi); });
+    kitaplık.veritabanı->TekİşlemdeYap([&] {
+        eklenen = makaleleriEkle(*kitaplık.veritabanı, satırlar);
+        bekçi.Bak(); // the last article may have been a long one
+    });
     Bildir(QStringLiteral("%1 makale aktarıldı.").arg(eklenen));
     return Başarılı;
 }
