@@ -387,6 +387,23 @@ int Bağlantı::ilerleme(void* bağlantı)
     return sürsün ? 0 : 1;
 }
 
+void Bağlantı::SayfayıTabloSay(qint64 sayfa, std::initializer_list<const char*> sql)
+{
+    // SQLite's own means for tools that look at a file's parts: while it is on, a table that is created
+    // is taken to be there already, at that page.
+    const auto kip = [this](int açık, qint64 kök) {
+        sqlite3_test_control(SQLITE_TESTCTRL_IMPOSTER, db_.get(), "main", açık, static_cast<int>(kök));
+    };
+    kip(0, 1);                                  // forgets all tables
+    Sayı("SELECT count(*) FROM sqlite_master"); // and this learns the file's own ones again
+    for (const char* deyim : sql) {
+        kip(1, sayfa);
+        const int durum = sqlite3_exec(db_.get(), deyim, nullptr, nullptr, nullptr);
+        kip(0, 0);
+        denetle(durum);
+    }
+}
+
 Deyim::Deyim(Bağlantı& bağlantı, const QByteArray& sql) : bağlantı_(bağlantı)
 {
     sqlite3_stmt* deyim = nullptr;

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string_view>
 
@@ -77,6 +78,11 @@ public:
     void İlerlemeAta(const std::function<void()>& bildir);
     /// The same, but the running statement ends with 3059 when the call returns false.
     void SürdürmeAta(std::function<bool()> sürsünMü);
+
+    /// Adds tables to what this connection knows of the file whose pages begin at the given one, and forgets
+    /// the ones of the last call; the file stays as it is. So a page can be read to which no path leads.
+    /// @param sql CREATE TABLE statements with the columns that the page's rows have
+    void SayfayıTabloSay(qint64 sayfa, std::initializer_list<const char*> sql);
 
     const QString& Yol() const { return yol_; }
 

@@ -12,22 +12,18 @@ constexpr int GenişÖnbellek = -16000;
 
 Recordset Database::OpenRecordset(const QString& sql) const
 {
-    if (!bağlantı_)
-        throw VeritabanıHatası(HataNo::NesneKapalı);
+    Dosya();
     return Recordset(bağlantı_, sql);
 }
 
 void Database::İlerlemeAta(std::function<bool()> sürsünMü) const
 {
-    if (!bağlantı_)
-        throw VeritabanıHatası(HataNo::NesneKapalı);
-    bağlantı_->SürdürmeAta(std::move(sürsünMü));
+    Dosya().SürdürmeAta(std::move(sürsünMü));
 }
 
 void Database::TekİşlemdeYap(const std::function<void()>& iş) const
 {
-    if (!bağlantı_)
-        throw VeritabanıHatası(HataNo::NesneKapalı);
+    Dosya();
     try {
         // Bulk work touches every page of the indices again and again.
         if (bağlantı_->Sayı("PRAGMA cache_size") == OlağanÖnbellek)
@@ -44,4 +40,11 @@ void Database::TekİşlemdeYap(const std::function<void()>& iş) const
         }
         throw;
     }
+}
+
+Bağlantı& Database::Dosya() const
+{
+    if (!bağlantı_)
+        throw VeritabanıHatası(HataNo::NesneKapalı);
+    return *bağlantı_;
 }

@@ -35,6 +35,9 @@ public:
 
     void Close() { bağlantı_.reset(); }
 
+    /// Used inside store/ only. Throws 3420 after Close.
+    Bağlantı& Dosya() const;
+
 private:
     std::shared_ptr<Bağlantı> bağlantı_;
 };

@@ -1,14 +1,15 @@
 #include "store/KitaplıkDenetimi.h"
 
 #include "store/KitaplıkDosyası.h"
+#include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
+#include "store/MakaleOkuyucu.h"
 #include "store/ÇalışmaGrubu.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QUtf8StringView>
 
 #include <algorithm>
 
@@ -25,12 +26,6 @@ const QString YarımMetni = QStringLiteral(
     "%1 dosyasında yarım kalmış bir yazma var; dosya bir sonraki açılışta ondan önceki durumuna döner.");
 const QString KesmeMetni = QStringLiteral("%1 makalenin yazar adında ya da başlığında kesme işareti (') var; "
                                           "program bunları bulup gösteremez.");
-
-// The sum keeps the table's own order out of it, so that the rows come from an index and a damaged page
-// of the table costs only its own ones.
-constexpr auto MakalelerSql = "SELECT Kimlik, MakaleBasligi FROM Makaleler ORDER BY Kimlik+0";
-constexpr auto SatırSql = "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
-                          " FROM Makaleler WHERE Kimlik=?1";
 
 bool adSütunu(MakaleSütunu sütun)
 {
@@ -73,9 +68,9 @@ private:
     QString geçiciKlasör() const;
     Kaynak kaynak(QStringView dosya);
 
-    void yapı(Bağlantı& kitaplık);
-    void satırlar(Bağlantı& kitaplık);
-    std::optional<DenetimBulgusu> satırKusuru(Deyim& satır);
+    YapıDurumu yapı(Bağlantı& kitaplık);
+    void satırlar(Bağlantı& kitaplık, YapıDurumu durum);
+    std::optional<DenetimBulgusu> kusur(const std::optional<MakaleDeğerleri>& makale);
 
     KlasörKilidi kilit_;
     QString klasör_;
@@ -151,47 +146,40 @@ void Denetçi::VeritabanınıDenetle()
     const Kaynak yer = kaynak(dosya);
     dene(dosya, [&] {
         const auto kitaplık = KitaplıkBağlantısı(yer.klasör, yer.kip, *grup_);
-        dene(dosya, [&] { yapı(*kitaplık); });
-        satırlar(*kitaplık);
+        satırlar(*kitaplık, yapı(*kitaplık));
     });
     if (kesmeİşaretli_ > 0)
         sonuç_.Notlar.append(KesmeMetni.arg(kesmeİşaretli_));
 }
 
-void Denetçi::yapı(Bağlantı& kitaplık)
+YapıDurumu Denetçi::yapı(Bağlantı& kitaplık)
 {
     const QStringView dosya = KitaplıkDosyaları::Veritabanı;
-    if (QFileInfo(kitaplık.Yol()).size() >
-        kitaplık.Sayı("PRAGMA page_count") * kitaplık.Sayı("PRAGMA page_size"))
-        ekle(bulgu(dosya, HataNo::DosyaBozuk, FazlaBaytMetni));
     kitaplık.İlerlemeAta([this] { bildir_(0, 0); });
-    Deyim deyim(kitaplık, "PRAGMA integrity_check");
-    while (deyim.Adım()) {
-        const QString ileti = deyim.Metin(0);
-        if (ileti.contains(u" index "))
-            ekle(bulgu(dosya, HataNo::DosyaBozuk, DizinMetni));
-        else if (ileti != u"ok")
-            throw VeritabanıHatası(HataNo::DosyaBozuk);
-    }
+    const YapıDurumu durum = GenelDurum(kitaplık, DenetimDerinliği::Dizinler);
     kitaplık.İlerlemeAta({});
+    if (durum == YapıDurumu::DizinBozuk)
+        ekle(bulgu(dosya, HataNo::DosyaBozuk, DizinMetni));
+    else if (durum == YapıDurumu::FazlaBayt)
+        ekle(bulgu(dosya, HataNo::DosyaBozuk, FazlaBaytMetni));
+    else if (durum != YapıDurumu::Sağlam)
+        ekle(bulgu(dosya, VeritabanıHatası(HataNo::DosyaBozuk)));
+    return durum;
 }
 
-void Denetçi::satırlar(Bağlantı& kitaplık)
+void Denetçi::satırlar(Bağlantı& kitaplık, YapıDurumu durum)
 {
-    std::vector<std::pair<qint64, QString>> makaleler;
-    for (Deyim deyim(kitaplık, MakalelerSql); deyim.Adım();)
-        makaleler.emplace_back(deyim.Sayı(0), Utf8Metni(deyim.Baytlar(1)).left(EnUzunAd));
-    sonuç_.MakaleSayısı = qint64(makaleler.size());
+    MakaleOkuyucu okuyucu(kitaplık, durum);
+    sonuç_.MakaleSayısı = qint64(okuyucu.Künyeler().size());
 
     const QStringView dosya = KitaplıkDosyaları::Veritabanı;
     qint64 okunan = 0, kusurlu = 0;
-    Deyim satır(kitaplık, SatırSql);
-    for (const auto& [kimlik, başlık] : makaleler) {
-        std::optional<DenetimBulgusu> kusur = satırKusuru(satır.Bağla(1, kimlik));
-        satır.Sıfırla();
-        if (kusur && ++kusurlu <= EnÇokMakale) {
-            kusur->Metin = QStringLiteral("“%1” başlıklı makale: %2").arg(başlık, kusur->Metin);
-            ekle(*kusur);
+    for (const MakaleKünyesi& künye : okuyucu.Künyeler()) {
+        std::optional<DenetimBulgusu> bulunan = kusur(okuyucu.Oku(künye));
+        if (bulunan && ++kusurlu <= EnÇokMakale) {
+            bulunan->Metin = QStringLiteral("“%1” başlıklı makale: %2")
+                                 .arg(künye.MakaleBasligi.left(EnUzunAd), bulunan->Metin);
+            ekle(*bulunan);
         }
         bildir_(++okunan, sonuç_.MakaleSayısı);
     }
@@ -199,25 +187,22 @@ void Denetçi::satırlar(Bağlantı& kitaplık)
         ekle(bulgu(dosya, HataNo::DosyaBozuk, QStringLiteral("Toplam %1 makale kusurlu.").arg(kusurlu)));
 }
 
-std::optional<DenetimBulgusu> Denetçi::satırKusuru(Deyim& satır)
-try {
-    if (!satır.Adım()) // it stands in the index only
-        throw VeritabanıHatası(HataNo::DosyaBozuk);
+/// @param makale nothing where it can't be read whole
+std::optional<DenetimBulgusu> Denetçi::kusur(const std::optional<MakaleDeğerleri>& makale)
+{
+    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    if (!makale)
+        return bulgu(dosya, VeritabanıHatası(HataNo::DosyaBozuk));
     bool kesmeİşaretli = false;
-    for (std::size_t i = 0; i < MakaleSütunları.size(); ++i) {
+    for (std::size_t i = 0; i < makale->size(); ++i) {
         const auto sütun = static_cast<MakaleSütunu>(i);
-        const std::string_view utf8 = satır.Yazı(int(i));
-        if (!QUtf8StringView(utf8.data(), qsizetype(utf8.size())).isValidUtf8())
-            throw VeritabanıHatası(HataNo::DosyaBozuk);
-        const QString değer = Utf8Metni(utf8);
+        const QString& değer = (*makale)[i];
         if (const QString sorun = DeğerSorunu(değer, sütun); !sorun.isEmpty())
-            return bulgu(KitaplıkDosyaları::Veritabanı, HataNo::DeğerGeçersiz, sorun);
+            return bulgu(dosya, HataNo::DeğerGeçersiz, sorun);
         kesmeİşaretli |= adSütunu(sütun) && değer.contains(u'\'');
     }
     kesmeİşaretli_ += kesmeİşaretli ? 1 : 0;
     return {};
-} catch (const VeritabanıHatası& hata) {
-    return bulgu(KitaplıkDosyaları::Veritabanı, hata);
 }
 
 } // namespace

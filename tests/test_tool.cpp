@@ -2,6 +2,7 @@
 #include "DenemeKitaplığı.h"
 
 #include "store/Bağlantı.h"
+#include "store/KitaplıkDenetimi.h"
 #include "store/Utf8Denetimi.h"
 
 #include <QFile>
@@ -193,6 +194,63 @@ private slots:
         DosyaYaz(klasör_ + u"Makale.mde"_s, DosyaOku(klasör_ + u"Makale.mde"_s) + "x");
         denetim(1, "Makale.mde: 3049: Dosyanın sonunda");
         QCOMPARE(HataNumarası([&] { Açılış{klasör_}; }), 3049);
+    }
+
+    void damagedPages_data()
+    {
+        QTest::addColumn<int>("kusur");
+        int kusur = 0;
+        for (const char* ad : {"zeros", "a wrong byte", "as it was before the last changes"})
+            QTest::newRow(ad) << kusur++;
+    }
+    // Each page in turn: the articles that come out, and a start that is as strict as the check.
+    void damagedPages()
+    {
+        QFETCH(const int, kusur);
+        QList<Makale> makaleler;
+        for (int i = 0; i < 60; ++i)
+            makaleler.append({u"A"_s, QString::number(i), UzunMetin(i, i % 20 ? 1500 : 40'000)});
+        Ekle(Database(DosyaBağlantısı(klasör_)), makaleler);
+        Açılış{klasör_};
+        const QString mde = klasör_ + u"Makale.mde"_s;
+        const QByteArray eski = DosyaOku(mde);
+        DosyaBağlantısı(klasör_)->Çalıştır("DELETE FROM Makaleler WHERE Kimlik % 9 = 4");
+        DosyaBağlantısı(klasör_)->Çalıştır("UPDATE Makaleler SET MakaleBasligi=MakaleBasligi||'Y', "
+                                           "MakaleMetni=MakaleMetni||MakaleMetni WHERE Kimlik % 5 = 2");
+        makaleler = Makaleler(Database(DosyaBağlantısı(klasör_)));
+        const QByteArray yeni = DosyaOku(mde);
+        const QByteArrayList satırlar = komut(u"dök"_s).second.split('\n');
+        int reddedilen = 0, onarılan = 0;
+        for (qsizetype yer = 0; yer < eski.size(); yer += SayfaBoyu) {
+            QByteArray sayfa =
+                kusur == 0 ? QByteArray(SayfaBoyu, 0) : (kusur == 1 ? yeni : eski).mid(yer, SayfaBoyu);
+            sayfa[99] = char(sayfa[99] ^ (kusur == 1));
+            DosyaYaz(mde, QByteArray(yeni).replace(yer, SayfaBoyu, sayfa));
+            const auto önce = KlasörOku(klasör_);
+            const DenetimSonucu denetim = KitaplığıDenetle(klasör_, [](qint64, qint64) {});
+            const bool dizin =
+                denetim.Bulgular.size() == 1 && denetim.Bulgular[0].Metin.startsWith(u"Bir dizin");
+            const bool tam = denetim.Bulgular.empty() || dizin;
+            const auto [durum, döküm] = komut(u"dök"_s);
+            const QByteArray olay =
+                "page " + QByteArray::number(yer / SayfaBoyu + 1) + ": " + döküm.right(300);
+            qsizetype yazılan = 0;
+            for (const QByteArray& satır : döküm.split('\n'))
+                yazılan += satırlar.contains(satır) && !satır.isEmpty();
+            if (kusur < 2 && yer > 0)
+                QVERIFY2(yazılan + döküm.count("Eksik makale: “") == makaleler.size() &&
+                             yazılan > makaleler.size() - 12,
+                         olay);
+            QVERIFY2(durum == (tam ? 0 : 1) && döküm.contains("Not: ") == dizin, olay);
+            std::optional<Açılış> açılış;
+            const int hata = HataNumarası([&] { açılış.emplace(klasör_); });
+            QVERIFY2(hata == (tam ? 0 : 3049) && (tam || KlasörOku(klasör_) == önce), olay);
+            QVERIFY2(!tam || (açılış->Durum == YapıDurumu::DizinBozuk) == dizin, olay);
+            QVERIFY2(!tam || kusur == 2 || Makaleler(*açılış->Veritabanı) == makaleler, olay);
+            reddedilen += !tam;
+            onarılan += dizin;
+        }
+        QVERIFY(reddedilen > 4 && onarılan > 0);
     }
 
     void wholeUtf8()

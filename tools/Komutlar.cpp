@@ -2,6 +2,7 @@
 
 #include "store/KitaplıkDenetimi.h"
 #include "store/MakaleKitaplığı.h"
+#include "store/MakaleOkuyucu.h"
 #include "store/SistemHatası.h"
 #include "tools/AraçHatası.h"
 #include "tools/Durdurma.h"
@@ -14,6 +15,7 @@
 #include <array>
 #include <new>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -23,9 +25,6 @@ constexpr int YanlışKullanım = 2;
 
 // None of the library's rows: what is appended needs no look at what is there.
 const QString EklemeSorgusu = QStringLiteral("SELECT * FROM [Makaleler] WHERE 1=0");
-// The key decides between equals, so that a library made from the output gives the same output.
-const QString DökümSorgusu =
-    QStringLiteral("SELECT * FROM [Makaleler] ORDER BY [YazarAdi] ASC, [MakaleBasligi] ASC, [Kimlik] ASC");
 
 const QString YardımMetni = QStringLiteral(
     R"(belgenar-kitaplik: Belgenar'ın makale kitaplığını oluşturur, doldurur, döker ve denetler.
@@ -35,7 +34,8 @@ Kullanım:
   belgenar-kitaplik aktar KLASÖR DOSYA   DOSYA'daki makaleleri kitaplığa ekler. Satırlardan biri bile
                                          yanlışsa hiçbirini eklemez. DOSYA yerine "-" yazılırsa
                                          standart girdiyi okur.
-  belgenar-kitaplik dök KLASÖR           Bütün makaleleri standart çıktıya yazar.
+  belgenar-kitaplik dök KLASÖR           Bütün makaleleri standart çıktıya yazar; bozuk bir kitaplıktan
+                                         okunabilenleri yazar, okunamayanları bildirir.
   belgenar-kitaplik denetle KLASÖR       Kitaplığın iki dosyasını denetler; hiçbir şeyi değiştirmez.
   belgenar-kitaplik --yardım             Bu açıklamayı gösterir.
 
@@ -46,7 +46,8 @@ Makaleler JSON Lines biçimindedir: UTF-8, her satırda bir nesne, her nesnede b
   {"YazarAdi": "…", "MakaleBasligi": "…", "YayimYeri": "…", "YayimTarihi": "…", "MakaleMetni": "…"}
 Yazar adı ile başlık boş olamaz. Boş satırlar atlanır.
 
-Çıkış durumu: 0 başarılı, 1 başarısız ya da denetimde sorun bulundu, 2 yanlış kullanım.
+Çıkış durumu: 0 başarılı, 1 başarısız, denetimde sorun bulundu ya da dökümde eksik makale var, 2 yanlış
+kullanım.
 Komutlar olustur, dok ve --yardim diye de yazılabilir.
 )");
 
@@ -81,6 +82,16 @@ int oluştur(const QStringList& değişkenler)
     KitaplıkKur(klasör);
     Bildir(QStringLiteral("Boş bir kitaplık oluşturuldu: %1").arg(klasör));
     return Başarılı;
+}
+
+/// The article as far as it is known, such as “BAŞLIK”, YAZAR (Kimlik 17).
+QString künyeMetni(const MakaleKünyesi& künye)
+{
+    const QString başlık = künye.MakaleBasligi.isNull() ? QStringLiteral("Başlığı okunamıyor")
+                                                        : u'“' + künye.MakaleBasligi + u'”';
+    return QStringLiteral("%1, %2 (Kimlik %3)")
+        .arg(başlık, künye.YazarAdi.isNull() ? QStringLiteral("yazarı okunamıyor") : künye.YazarAdi)
+        .arg(künye.Kimlik);
 }
 
 void satırlarıDenetle(JsonSatırları& satırlar)
@@ -123,21 +134,49 @@ int aktar(const QStringList& değişkenler)
     return Başarılı;
 }
 
+/// Says what a damaged library didn't give. Returns the exit status.
+int dökümHesabı(const MakaleOkuyucu& okuyucu, const std::vector<MakaleKünyesi>& eksikler)
+{
+    const YapıDurumu durum = okuyucu.Durum();
+    for (const MakaleKünyesi& künye : eksikler)
+        HataBildir(QStringLiteral("Eksik makale: ") + künyeMetni(künye));
+    if (eksikler.empty() && durum == YapıDurumu::DizinBozuk)
+        HataBildir(QStringLiteral("Not: Kitaplığın bir dizini bozuk; makalelerin hepsi yazıldı."));
+    if (eksikler.empty() && durum <= YapıDurumu::DizinBozuk)
+        return Başarılı;
+    QString cümle = QStringLiteral("Kitaplık bozuk: %1 makale yazıldı, %2 makale eksik.")
+                        .arg(okuyucu.Künyeler().size() - eksikler.size())
+                        .arg(eksikler.size());
+    if (okuyucu.BilinmeyenOlabilir())
+        cümle += QStringLiteral(" Adı bilinmeyen başka eksikler de olabilir.");
+    if (durum > YapıDurumu::Okunamıyor)
+        cümle += QStringLiteral(" Yazılanların bir bölümü eski ya da karışık olabilir.");
+    HataBildir(cümle);
+    return Başarısız;
+}
+
 int dök(const QStringList& değişkenler)
 {
     const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]), KitaplığıOku);
     Çıktı çıktı;
-    İlerleme ilerleme(QStringLiteral("Makaleler dökülüyor"));
-    Recordset kayıtlar = kitaplık.veritabanı->OpenRecordset(DökümSorgusu);
-    for (qint64 sayı = 0; !kayıtlar.Eof(); kayıtlar.MoveNext()) {
-        Makale makale;
-        for (std::size_t i = 0; i < makale.size(); ++i)
-            makale[i] = kayıtlar.Fields(MakaleSütunları[i].ad).Value();
-        çıktı.Yaz(MakaleSatırı(makale));
-        ilerleme.Göster(++sayı, kayıtlar.RecordCount());
+    std::vector<MakaleKünyesi> eksikler;
+    auto ilerleme = std::make_optional<İlerleme>(QStringLiteral("Makaleler dökülüyor"));
+    kitaplık.veritabanı->İlerlemeAta([&ilerleme] {
+        ilerleme->Göster(0, 0);
+        return true;
+    });
+    MakaleOkuyucu okuyucu(*kitaplık.veritabanı);
+    for (qint64 sayı = 0; const MakaleKünyesi& künye : okuyucu.Künyeler()) {
+        if (const auto makale = okuyucu.Oku(künye))
+            çıktı.Yaz(MakaleSatırı(*makale));
+        else
+            eksikler.push_back(künye);
+        ilerleme->Göster(++sayı, qint64(okuyucu.Künyeler().size()));
     }
     çıktı.Bitir();
-    return Başarılı;
+    kitaplık.veritabanı->İlerlemeAta({});
+    ilerleme.reset();
+    return dökümHesabı(okuyucu, eksikler);
 }
 
 int denetle(const QStringList& değişkenler)

@@ -1,0 +1,198 @@
+#include "store/MakaleOkuyucu.h"
+
+#include "store/Bağlantı.h"
+#include "store/Database.h"
+#include "text/TürkçeSıralama.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr auto SıralıSql = "SELECT Kimlik, YazarAdi, MakaleBasligi FROM Makaleler"
+                           " ORDER BY YazarAdi, MakaleBasligi, Kimlik";
+constexpr auto AğaçSql = "SELECT Kimlik, YazarAdi, MakaleBasligi FROM Makaleler NOT INDEXED";
+constexpr auto YazarDizini = "SELECT Kimlik, YazarAdi, MakaleBasligi FROM Makaleler INDEXED BY YazarDizini";
+constexpr auto BaşlıkDizini = "SELECT Kimlik, NULL, MakaleBasligi FROM Makaleler INDEXED BY BaslikDizini";
+constexpr auto MakaleSql = "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
+                           " FROM Makaleler WHERE Kimlik=?1";
+
+// A single page, taken for one of the table and for one of an index. The index of titles has one column less.
+constexpr auto TabloSayfası = "CREATE TABLE TabloSayfasi(Kimlik INTEGER PRIMARY KEY, YazarAdi TEXT,"
+                              " MakaleBasligi TEXT, YayimYeri TEXT, YayimTarihi TEXT, MakaleMetni TEXT)";
+constexpr auto DizinSayfası =
+    "CREATE TABLE DizinSayfasi(Bir, Iki, Uc, PRIMARY KEY(Bir, Iki, Uc)) WITHOUT ROWID";
+constexpr auto TabloSayfasıSql = "SELECT Kimlik, YazarAdi, MakaleBasligi FROM TabloSayfasi";
+constexpr auto DizinSayfasıSql = "SELECT ifnull(Uc, Iki), CASE WHEN Uc IS NOT NULL THEN Bir END,"
+                                 " CASE WHEN Uc IS NULL THEN Bir ELSE Iki END FROM DizinSayfasi";
+constexpr auto SayfadakiMakaleSql = "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
+                                    " FROM TabloSayfasi WHERE Kimlik=?1";
+// The first page of a file holds the names of its tables.
+constexpr qint64 İlkSayfa = 2;
+
+/// Runs the work up to the first page that can't be read. @return whether it came to its end
+template<class İş> bool okunduğuKadar(İş&& iş)
+{
+    try {
+        iş();
+        return true;
+    } catch (const VeritabanıHatası& hata) {
+        if (hata.Numara() != HataNo::DosyaBozuk)
+            throw;
+        return false;
+    }
+}
+
+/// What is known of an article while it is searched for.
+struct Bulunan
+{
+    MakaleKünyesi Künye;
+    bool Ağaçta = false;          // the table's own paths lead to it
+    bool Dizinde = false;         // an index names it
+    std::vector<qint64> Sayfalar; // it stands on these, live or not
+};
+
+class Arama
+{
+public:
+    explicit Arama(Bağlantı& kitaplık) : kitaplık_(kitaplık) {}
+
+    void Ağaçlar();  ///< all to which the file's own paths lead
+    void Sayfalar(); ///< then what stands on any page
+    std::unordered_map<qint64, Bulunan> Bulunanlar;
+    bool TabloTam = false, DizinlerTam = false, BirDizinTam = false;
+
+private:
+    template<class İş> bool oku(const char* sql, İş&& iş)
+    {
+        return okunduğuKadar([&] {
+            for (Deyim deyim(kitaplık_, sql); deyim.Adım();)
+                iş(ekle(deyim));
+        });
+    }
+    Bulunan& ekle(const Deyim& deyim);
+    void sayfayıOku(qint64 sayfa);
+
+    Bağlantı& kitaplık_;
+};
+
+MakaleKünyesi künye(const Deyim& deyim)
+{
+    return {deyim.Sayı(0), Utf8Metni(deyim.Baytlar(1)), Utf8Metni(deyim.Baytlar(2))};
+}
+
+/// The first source of a name counts.
+Bulunan& Arama::ekle(const Deyim& deyim)
+{
+    const MakaleKünyesi yeni = künye(deyim);
+    Bulunan& bulunan = Bulunanlar[yeni.Kimlik];
+    bulunan.Künye.Kimlik = yeni.Kimlik;
+    if (bulunan.Künye.YazarAdi.isNull())
+        bulunan.Künye.YazarAdi = yeni.YazarAdi;
+    if (bulunan.Künye.MakaleBasligi.isNull())
+        bulunan.Künye.MakaleBasligi = yeni.MakaleBasligi;
+    return bulunan;
+}
+
+void Arama::Ağaçlar()
+{
+    const auto dizinde = [](Bulunan& bulunan) { bulunan.Dizinde = true; };
+    TabloTam = oku(AğaçSql, [](Bulunan& bulunan) { bulunan.Ağaçta = true; });
+    const bool yazarlar = oku(YazarDizini, dizinde), başlıklar = oku(BaşlıkDizini, dizinde);
+    DizinlerTam = yazarlar && başlıklar;
+    BirDizinTam = yazarlar || başlıklar;
+}
+
+void Arama::Sayfalar()
+{
+    const qint64 sayfalar = kitaplık_.Sayı("PRAGMA page_count");
+    for (qint64 sayfa = İlkSayfa; sayfa <= sayfalar; ++sayfa)
+        sayfayıOku(sayfa);
+}
+
+void Arama::sayfayıOku(qint64 sayfa)
+{
+    kitaplık_.SayfayıTabloSay(sayfa, {TabloSayfası, DizinSayfası});
+    oku(TabloSayfasıSql, [sayfa](Bulunan& bulunan) { bulunan.Sayfalar.push_back(sayfa); });
+    if (!DizinlerTam)
+        oku(DizinSayfasıSql, [](Bulunan& bulunan) { bulunan.Dizinde = true; });
+}
+
+bool önce(const MakaleKünyesi& bir, const MakaleKünyesi& öteki)
+{
+    const auto karşılaştır = [](const QString& a, const QString& b) {
+        const QByteArray aUtf8 = a.toUtf8(), bUtf8 = b.toUtf8();
+        return TürkçeKarşılaştır({aUtf8.data(), std::size_t(aUtf8.size())},
+                                 {bUtf8.data(), std::size_t(bUtf8.size())});
+    };
+    if (const int yazar = karşılaştır(bir.YazarAdi, öteki.YazarAdi); yazar != 0)
+        return yazar < 0;
+    if (const int başlık = karşılaştır(bir.MakaleBasligi, öteki.MakaleBasligi); başlık != 0)
+        return başlık < 0;
+    return bir.Kimlik < öteki.Kimlik;
+}
+
+std::optional<MakaleDeğerleri> değerler(Bağlantı& kitaplık, const char* sql, qint64 kimlik)
+{
+    std::optional<MakaleDeğerleri> değerler;
+    okunduğuKadar([&] {
+        Deyim satır(kitaplık, sql);
+        if (!satır.Bağla(1, kimlik).Adım())
+            return;
+        MakaleDeğerleri okunan;
+        for (std::size_t i = 0; i < okunan.size(); ++i)
+            okunan[i] = Utf8Metni(SağlamDeğer(satır, int(i)));
+        değerler = std::move(okunan);
+    });
+    return değerler;
+}
+
+} // namespace
+
+MakaleOkuyucu::MakaleOkuyucu(const Database& kitaplık)
+    : MakaleOkuyucu(kitaplık.Dosya(), GenelDurum(kitaplık.Dosya(), DenetimDerinliği::Sayfalar))
+{
+}
+
+MakaleOkuyucu::MakaleOkuyucu(Bağlantı& kitaplık, YapıDurumu durum) : kitaplık_(kitaplık), durum_(durum)
+{
+    if (durum == YapıDurumu::Sağlam) {
+        for (Deyim deyim(kitaplık, SıralıSql); deyim.Adım();)
+            künyeler_.push_back(künye(deyim));
+        return;
+    }
+    künyeleriAra();
+    std::sort(künyeler_.begin(), künyeler_.end(), önce);
+}
+
+void MakaleOkuyucu::künyeleriAra()
+{
+    Arama arama(kitaplık_);
+    arama.Ağaçlar();
+    if (durum_ != YapıDurumu::DizinBozuk)
+        arama.Sayfalar();
+    bilinmeyenOlabilir_ = !arama.TabloTam && !arama.BirDizinTam;
+    for (auto& [kimlik, bulunan] : arama.Bulunanlar) {
+        // Where the table is whole, what only an index knows of is the index's fault; and what stands on a
+        // page to which nothing leads was deleted, if the indices can tell.
+        const bool var =
+            bulunan.Ağaçta || (durum_ != YapıDurumu::DizinBozuk && (bulunan.Dizinde || !arama.DizinlerTam));
+        if (!var)
+            continue;
+        künyeler_.push_back(std::move(bulunan.Künye));
+        sayfalar_.emplace(kimlik, std::move(bulunan.Sayfalar));
+    }
+}
+
+std::optional<MakaleDeğerleri> MakaleOkuyucu::Oku(const MakaleKünyesi& künye)
+{
+    if (auto okunan = değerler(kitaplık_, MakaleSql, künye.Kimlik))
+        return okunan;
+    const auto uyar = [](const QString& ad, const QString& değer) { return ad.isNull() || ad == değer; };
+    for (const qint64 sayfa : sayfalar_[künye.Kimlik]) {
+        kitaplık_.SayfayıTabloSay(sayfa, {TabloSayfası});
+        const auto okunan = değerler(kitaplık_, SayfadakiMakaleSql, künye.Kimlik);
+        if (okunan && uyar(künye.YazarAdi, (*okunan)[0]) && uyar(künye.MakaleBasligi, (*okunan)[1]))
+            return okunan;
+    }
+    return {};
+}
