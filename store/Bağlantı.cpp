@@ -127,6 +127,17 @@ HataNo erişimHatası(int sistem)
     return numara == HataNo::DosyaYok ? HataNo::DiskHatası : numara;
 }
 
+/// Why the folder takes no new file. SQLite tries a second time for reading, and has that error only.
+int yeniDosyaHatası(const QString& yol)
+{
+    const QByteArray klasör = QFile::encodeName(QFileInfo(yol).canonicalPath());
+    const int no = open(klasör.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (no < 0)
+        return errno == EOPNOTSUPP || errno == EISDIR ? EROFS : errno; // these two know no such files
+    close(no);
+    return EIO; // it takes them by now
+}
+
 void varOlmalı(const QString& yol)
 {
     struct stat bilgi = {};
@@ -261,7 +272,7 @@ void Bağlantı::hataVer(int durum, bool adımda) const
     case SQLITE_AUTH:
         throw VeritabanıHatası(HataNo::İzinYok, yol_);
     case SQLITE_CANTOPEN: // a journal that can't be made
-        SistemHatasıVer(sqlite3_system_errno(db_.get()), Erişim::Yazma, yol_);
+        throw VeritabanıHatası(SistemHataNo(yeniDosyaHatası(yol_), Erişim::Yazma), yol_);
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
         if (sonErişimHatası != 0) // it could not be read; what it holds may be whole

@@ -24,6 +24,7 @@ const QString HedefYereli = QStringLiteral(";LANGID=0x041F;CP=1254;COUNTRY=0");
 // workgroup file alone is what a killed making left, and belongs to no library.
 const QString YeniEki = QStringLiteral(".yeni");
 const QString GünlükEki = QStringLiteral("-journal");
+constexpr qint64 BoşGünlükBoyu = 4096; // of one that holds a header only, at the most
 
 /// An empty file is half of a library too: it holds nothing that could be lost.
 bool dolu(const QString& yol)
@@ -48,7 +49,13 @@ void KitaplıkKur(const QString& klasör)
         throw VeritabanıHatası(HataNo::DosyaVar, kitaplık);
     if (dolu(grup) && !yarımdı)
         throw VeritabanıHatası(HataNo::DosyaVar, grup);
-    // A journal without its library holds nothing that could be brought back, but would spoil the new one.
+    // From these two a library that has lost its file can still be brought back.
+    const QString kopya = KitaplıkYolu(klasör, KitaplıkDosyaları::Kopya);
+    if (dolu(kopya))
+        throw VeritabanıHatası(HataNo::DosyaVar, kopya);
+    if (QFileInfo(kitaplık + GünlükEki).size() > BoşGünlükBoyu)
+        throw VeritabanıHatası(HataNo::DosyaVar, kitaplık + GünlükEki);
+    // A journal that holds no page would still spoil the new library.
     for (const QString& yol : {yeniKitaplık, yeniGrup, kitaplık + GünlükEki, grup + GünlükEki,
                                yeniKitaplık + GünlükEki, yeniGrup + GünlükEki})
         DosyayıSil(yol);

@@ -22,7 +22,8 @@ struct KitaplıkDosyaları
 };
 
 /// Creates an empty library and its workgroup file in the folder, readable for their owner only. What a
-/// killed creation left is replaced. Throws 3204 when either file exists, and then creates nothing.
+/// killed creation left is replaced. Throws 3204 when either file or the spare copy exists, and then creates
+/// nothing.
 void KitaplıkKur(const QString& klasör);
 
 /// The owner's workspace; the engine's workgroup file must be set.

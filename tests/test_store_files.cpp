@@ -202,13 +202,13 @@ private slots:
         for (const Durum& kalan :
              {Durum{{Mde + yeni, yarım}}, Durum{{Mde + yeni, yarım}, {Mde + yeni + u"-journal"_s, yarım}},
               Durum{{Mde + yeni, mde}, {Tps + yeni, yarım}}, Durum{{Mde + yeni, mde}, {Tps, tps}},
-              Durum{{Mde, ""}, {Mde + u"-journal"_s, yarım}}, Durum{{Mde, tam[Mde]}}, Durum{{Tps, tps}},
-              tam}) {
+              Durum{{Mde, ""}, {Mde + u"-journal"_s, "x"}}, Durum{{Mde + u"-journal"_s, yarım}},
+              Durum{{MdKopya, mde}}, Durum{{Mde, tam[Mde]}}, Durum{{Tps, tps}}, tam}) {
             for (const QString& ad : KlasörOku(klasör).keys())
                 QFile::remove(klasör + ad);
             for (const auto& [ad, baytlar] : kalan.asKeyValueRange())
                 DosyaYaz(klasör + ad, baytlar);
-            const bool korunur = kalan[Mde].size() > 0 || (kalan.contains(Tps) && kalan.size() == 1);
+            const bool korunur = kalan[Mde].size() > 0 || (kalan.size() == 1 && !kalan.contains(Mde + yeni));
             QCOMPARE(HataNumarası([&] { KitaplıkKur(klasör); }), korunur ? 3204 : 0);
             if (korunur) {
                 QCOMPARE(KlasörOku(klasör), kalan);
