@@ -38,14 +38,37 @@ need_packages() {
         || die "Paketler kurulamadı:$missing"
 }
 
-# Configures once and builds a preset; quiet unless something fails.
+# Sets $place to a path of the checkout that the build tools can read. CMake stops at some signs (a quote, a
+# bracket), and Ninja takes a file's dependencies apart at others (an apostrophe) and then builds it each
+# time: a checkout below such a folder is built through a link, which keeps its name from run to run.
+find_build_place() {
+    local links
+    place=$PWD
+    [[ $place == *[!'/._ -'[:alnum:]]* ]] || return 0
+    links=/var/tmp/belgenar-$(id -u)
+    mkdir -m 700 "$links" 2>/dev/null
+    [ -d "$links" ] && [ ! -L "$links" ] && [ -O "$links" ] || die "Kullanılamıyor: $links"
+    place=$links/$(sha256sum <<<"$PWD" | cut -c1-16)
+    ln -sfn "$PWD" "$place" || die "Yazılamıyor: $place"
+}
+
+# Configures once and builds a preset; quiet unless something fails. The tools read the folder that they are
+# called in, too.
 build() {
-    local preset=$1 log
+    local preset=$1 log place
+    find_build_place
     # A build folder that was moved or copied with its checkout still names the old place.
-    grep -qsx "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$preset/CMakeCache.txt" || rm -rf "build/$preset"
-    [ -f "build/$preset/build.ninja" ] || log=$(cmake --preset "$preset" 2>&1) \
+    grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$place" "build/$preset/CMakeCache.txt" || rm -rf "build/$preset"
+    [ -f "build/$preset/build.ninja" ] || log=$(cd / && cmake -S "$place" --preset "$preset" 2>&1) \
         || { echo "$log"; die "Yapılandırma başarısız: $preset"; }
-    log=$(cmake --build --preset "$preset" 2>&1) || { echo "$log" | tail -n 60; die "Derleme başarısız: $preset"; }
+    log=$(cd / && cmake --build "$place/build/$preset" 2>&1) || { echo "$log" | tail -n 60; die "Derleme başarısız: $preset"; }
+}
+
+# install_built PRESET FOLDER: puts what was built into a folder of the checkout.
+install_built() {
+    local place
+    find_build_place
+    (cd / && cmake --install "$place/build/$1" --prefix "$place/$2") >/dev/null || die "Kurulum başarısız oldu."
 }
 
 # Starts a virtual screen with a window manager; sets DISPLAY. Ends both when the shell exits.

@@ -4,6 +4,7 @@
 set -u
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
+. tests/denetim.sh
 export LC_ALL=C.UTF-8
 
 work=$(mktemp -d)
@@ -12,19 +13,7 @@ export HOME=$work/ev XDG_DATA_HOME="$work/ev/veri klasörü"
 data=$XDG_DATA_HOME
 id=example.tepsan.belgenar
 entry=$data/applications/$id.desktop
-failures=0
 
-check() { # check TITLE COMMAND...
-    local title=$1
-    shift
-    if "$@" >"$work/soz" 2>&1; then
-        echo "ok $title"
-    else
-        echo "FAIL $title"
-        sed 's/^/  /' "$work/soz"
-        failures=$((failures + 1))
-    fi
-}
 check_with() { # check_with NEEDED TITLE COMMAND...: only where the needed command is
     if command -v "$1" >/dev/null; then check "${@:2}"; else echo "skipped: $2 ($1 yok)"; fi
 }
