@@ -71,6 +71,15 @@ install_built() {
     (cd / && cmake --install "$place/build/$1" --prefix "$place/$2") >/dev/null || die "Kurulum başarısız oldu."
 }
 
+# eventually COMMAND...: waits until it is true. Gives up after far more time than a busy machine needs.
+eventually() {
+    local end=$((SECONDS + 120))
+    until "$@"; do
+        [ "$SECONDS" -lt "$end" ] || return 1
+        sleep 0.1
+    done
+}
+
 # Starts a virtual screen with a window manager; sets DISPLAY. Ends both when the shell exits.
 start_virtual_display() {
     local number_file
@@ -78,23 +87,17 @@ start_virtual_display() {
     Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
     VIRTUAL_PIDS="$!"
     trap 'stop_virtual_display' EXIT
-    local i
-    for i in $(seq 100); do
-        [ -s "$number_file" ] && break
-        sleep 0.1
-    done
-    [ -s "$number_file" ] || die "Xvfb başlamadı."
+    eventually test -s "$number_file" || die "Xvfb başlamadı."
     DISPLAY=:$(tr -d '\n' <"$number_file")
     rm -f "$number_file"
     export DISPLAY
     openbox >/dev/null 2>&1 &
     VIRTUAL_PIDS="$! $VIRTUAL_PIDS"
-    for i in $(seq 100); do
-        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-        sleep 0.1
-    done
+    eventually window_manager_there || die "Pencere yöneticisi başlamadı."
     setxkbmap tr 2>/dev/null || true
 }
+
+window_manager_there() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
 stop_virtual_display() {
     # shellcheck disable=SC2086
@@ -103,12 +106,8 @@ stop_virtual_display() {
 }
 
 # Waits until a window with this text in its caption is visible; prints its id.
-wait_for_window() {
-    local i id
-    for i in $(seq "${2:-150}"); do
-        id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1)
-        [ -n "$id" ] && { echo "$id"; return 0; }
-        sleep 0.1
-    done
-    return 1
-}
+wait_for_window() { eventually visible_window "$1"; }
+visible_window() { xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1 | grep .; }
+
+# picture_of WINDOW FILE: true once the window is painted, which it is as a whole.
+picture_of() { import -window "$1" "$2" 2>/dev/null && [ "$(identify -format %k "$2")" -gt 20 ]; }

@@ -19,24 +19,24 @@ settings="$XDG_CONFIG_HOME/Tepsan Yazilim/Belgenar.ini"
 caption="Tepsan Yazılım - Belgenar 1.00"
 program=
 
+# The pauses let the program paint what the keys did; a busier machine may need longer ones.
 key() { xdotool key --clearmodifiers "$@"; sleep 0.2; }
 types() { xdotool type --delay 40 "$1"; sleep 0.3; }
 
 # Waits until the window with exactly this caption has the keyboard; sets $shown to its id.
 window() {
-    local i
-    for i in $(seq 100); do
-        if [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; then
-            shown=$(xdotool getactivewindow)
-            sleep 0.4 # until it is painted
-            return
-        fi
-        sleep 0.1
-    done
-    kill -0 "$program" 2>/dev/null || die "Program kendiliğinden bitti; beklenen pencere: $1"
+    local title=$1
+    eventually shown_or_ended "$title"
+    running || die "Program kendiliğinden bitti; beklenen pencere: $title"
+    if active_is "$title" && shown=$(xdotool getactivewindow) && eventually picture_of "$shown" "$work/bakis.png"; then
+        return
+    fi
     import -window root "${TMPDIR:-/tmp}/belgenar-resim-hata.png" 2>/dev/null
-    die "Pencere açılmadı: $1"
+    die "Pencere açılmadı: $title"
 }
+running() { kill -0 "$program" 2>/dev/null; }
+active_is() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
+shown_or_ended() { active_is "$1" || ! running; }
 
 # picture NAME [HEIGHT]: the active window with its frame and what lies over it, or its upper part only. The
 # caret blinks once a second: of the looks within that time the darkest has it, so that pictures do not
@@ -69,9 +69,10 @@ start() {
     window "$caption"
     xdotool mousemove 5 5 # no picture shows what the pointer does to a control
 }
+ended() { ! running; }
 finish() {
     kill -TERM "$program"
-    timeout 20 tail -f --pid="$program" /dev/null || die "Program kapanmadı."
+    eventually ended || die "Program kapanmadı."
     wait "$program" || die "Program hatayla bitti."
     program=
 }

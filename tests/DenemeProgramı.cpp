@@ -61,7 +61,7 @@ bool PencereAç(const std::function<void()>& aç, const std::function<void(QDial
     bool açıldı = false;
     QTimer::singleShot(0, qApp, [&] {
         auto* kutu = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!kutu || !QTest::qWaitForWindowActive(kutu))
+        if (!kutu || !QTest::qWaitForWindowActive(kutu, BeklemeSınırı))
             return;
         kullanıcı(*kutu);
         açıldı = true;

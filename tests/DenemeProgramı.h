@@ -16,6 +16,9 @@ class QDialog;
 class QMessageBox;
 class QWidget;
 
+/// How long waits go on at most, in ms; they end as soon as what they wait for is there.
+constexpr int BeklemeSınırı = 120'000;
+
 /// Sets the common globals and lets go of them when destroyed. One at a time.
 class DenemeProgramı
 {

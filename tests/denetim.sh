@@ -4,7 +4,7 @@
 failures=0
 on_failure() { :; } # a script may look closer
 
-# check TITLE COMMAND...: prints "ok TITLE", or "FAIL TITLE" and what the command said.
+# check TITLE COMMAND...: prints "ok TITLE", or "FAIL TITLE" and what the command said last.
 check() {
     local title=$1 said
     shift
@@ -13,7 +13,7 @@ check() {
         echo "ok $title"
     else
         echo "FAIL $title"
-        sed 's/^/  /' "$said"
+        tail -n 20 "$said" | sed 's/^/  /'
         failures=$((failures + 1))
         on_failure
     fi

@@ -4,8 +4,8 @@
 set -u
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
+. scripts/ortak.sh
 . tests/denetim.sh
-export LC_ALL=C.UTF-8
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -65,7 +65,7 @@ launched_as() { # launched_as PROGRAM
     printf '#!/bin/sh\nprintf "%%s\\n" "$#" "$0" >"%s"\n' "$work/cagri" >"$1"
     chmod +x "$1"
     gio launch "$entry"
-    timeout 5 sh -c 'until [ -s "$0" ]; do sleep 0.1; done' "$work/cagri"
+    eventually test -s "$work/cagri"
     mv "$1.asıl" "$1"
     equal "$(cat "$work/cagri")" "0"$'\n'"$1"
 }

@@ -109,7 +109,7 @@ private slots:
             QTimer::singleShot(0, this, [&] {
                 QWidget& window = *QApplication::activeModalWidget();
                 const auto end = qScopeGuard([&] { window.close(); });
-                QVERIFY(QTest::qWaitForWindowActive(&window) && !window.parentWidget());
+                QVERIFY(QTest::qWaitForWindowActive(&window, BeklemeSınırı) && !window.parentWidget());
                 const auto label = [&](int i) { return window.findChild<QLabel*>(u"Etiket%1"_s.arg(i)); };
                 QTEST(window.windowTitle() + u'|' + label(0)->text() + u'|' + label(1)->text(), "texts");
                 QTest::mouseMove(window.windowHandle(), {});

@@ -191,7 +191,7 @@ void TestMainWindow::layout()
     t->Göster();
     QVERIFY(!t->Form->isMaximized());
     t->Form->resize(asked - (ÇerçeveliYer(*t->Form).size() - t->Form->size()));
-    QTRY_COMPARE(ÇerçeveliYer(*t->Form).size(), outer);
+    QTRY_COMPARE_WITH_TIMEOUT(ÇerçeveliYer(*t->Form).size(), outer, BeklemeSınırı);
     const int w = FormTwipi(outer.width()), h = FormTwipi(outer.height()), list = w / 3;
     const QHash<QString, int> from = {{u"W"_s, w}, {u"H"_s, h}, {u"L"_s, list}};
     // Control, property (left, top, width, height), value
@@ -312,7 +312,7 @@ void TestMainWindow::sharedLetter()
     const auto press = [this] { QTest::keyClick(t->Form->focusWidget(), Qt::Key_Y, Qt::AltModifier); };
     for (int i = 0; i < 3; ++i) {
         t->Form->activateWindow(); // as a window manager does when the other window has gone
-        QVERIFY(QTest::qWaitForWindowActive(t->Form.get()));
+        QVERIFY(QTest::qWaitForWindowActive(t->Form.get(), BeklemeSınırı));
         t->Bul<MetinKutusu>(u"BulKutusu"_s).setFocus();
         press();
         QVERIFY(t->Yazarlar().hasFocus());
@@ -330,7 +330,7 @@ void TestMainWindow::exitQuestion()
     {
         KutuYanıtlayıcı hayır(KutuYanıtlayıcı::Yanıt::Hayır);
         QTest::keyClick(t->Form.get(), Qt::Key_Escape);
-        QTRY_COMPARE(hayır.Sayı, 1);
+        QTRY_COMPARE_WITH_TIMEOUT(hayır.Sayı, 1, BeklemeSınırı);
         QCOMPARE(hayır.Metin, u"Programdan çıkmak istediğinizden emin misiniz?"_s);
         QVERIFY(!t->Form->Kapat(KapanışNedeni::OturumSonu));
         QCOMPARE(hayır.Sayı, 2);

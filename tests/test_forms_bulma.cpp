@@ -83,7 +83,7 @@ void TestFinding::init()
 {
     t = std::make_unique<AnaFormDenemesi>(Örnek);
     t->Göster();
-    QVERIFY(QTest::qWaitForWindowActive(t->Form.get()));
+    QVERIFY(QTest::qWaitForWindowActive(t->Form.get(), BeklemeSınırı));
 }
 
 void TestFinding::listPrefix_data()

@@ -63,7 +63,7 @@ struct Pencere
     void Etkinleş()
     {
         Kutu.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&Kutu));
+        QVERIFY(QTest::qWaitForWindowActive(&Kutu, BeklemeSınırı));
     }
     void Doldur(const Makale& makale)
     {
@@ -227,7 +227,7 @@ void TestEntryWindows::typedKeysAndLeaving()
             return p.Bul<QLabel>(u"Etiket%1"_s.arg(label)).palette().color(QPalette::WindowText) ==
                    QColor(Qt::blue);
         };
-        QTRY_VERIFY(blue(0));
+        QTRY_VERIFY_WITH_TIMEOUT(blue(0), BeklemeSınırı);
         Yaz(p.Yazar(), u" ali ığdır \r"_s);
         QCOMPARE(p.Yazar().Text(), u"ALİ IĞDIR"_s);
         QCOMPARE(p.Odak(), u"MakaleBaşlığıKutusu"_s);
@@ -244,7 +244,7 @@ void TestEntryWindows::typedKeysAndLeaving()
         Yaz(p.Metin(), u" e "_s);
         QTest::keyClick(&p.Metin(), Qt::Key_Backtab);
         QCOMPARE(p.Metin().Text(), u"o'n\n e"_s);
-        QTRY_COMPARE(p.Tarih().selectedText(), u"Şubat 2003"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(p.Tarih().selectedText(), u"Şubat 2003"_s, BeklemeSınırı);
         p.Yazar().setFocus();
         p.Yazar().lineEdit()->setText(u"o'neil\tx\u2029\u00ad😀"_s + QChar(0xd83d)); // as pasted
         QTest::keyClick(&p.Yazar(), Qt::Key_Tab);
@@ -343,7 +343,8 @@ void TestEntryWindows::refusedDateStopsTheClick()
             QCOMPARE(box.Sayı, 3);
             QCOMPARE(p.Odak(), u"YayımTarihiKutusu"_s);
         }
-        QTest::qWait(150); // the mnemonic's click would come late
+        // The mnemonic's click would come late, and hold the button down until then.
+        QTRY_VERIFY_WITH_TIMEOUT(!p.Düğmesi(u"EkleKaydetButonu"_s).isDown(), BeklemeSınırı);
         QCOMPARE(stored(), Örnek);
         KutuYanıtlayıcı box(Yanıt::Evet);
         p.Bas(u"EkleKaydetButonu"_s);

@@ -5,6 +5,7 @@ set -u
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . scripts/ortak.sh
+. tests/denetim.sh
 . tests/yazdırma.sh
 
 work=$(mktemp -d)
@@ -13,47 +14,39 @@ export XDG_CONFIG_HOME=$work/ayar XDG_RUNTIME_DIR=$work/calisma HOME=$work/ev
 mkdir -m 700 "$XDG_RUNTIME_DIR" "$HOME"
 settings="$XDG_CONFIG_HOME/Tepsan Yazilim/Belgenar.ini"
 caption="Tepsan Yazılım - Belgenar 1.00"
-failures=0
 program=
 
-check() { # check TITLE COMMAND...
-    local title=$1
-    shift
-    if "$@"; then
-        echo "ok $title"
-    else
-        echo "FAIL $title"
-        import -window root "${TMPDIR:-/tmp}/belgenar-hata-$((++failures)).png" 2>/dev/null
-    fi
+on_failure() { import -window root "${TMPDIR:-/tmp}/belgenar-hata-$failures.png" 2>/dev/null; }
+start() { # until the main window has the keyboard
+    "$folder/belgenar" >>"$work/gunluk" 2>&1 &
+    program=$!
+    eventually active_is "$caption"
 }
-eventually() { # eventually COMMAND...: true within five seconds
-    local i
-    for i in $(seq 50); do
-        "$@" && return 0
+running() { kill -0 "$program" 2>/dev/null; }
+ended() { ! running; }
+types() { xdotool type --delay 50 "$1"; }
+ended_with() { wait "$program"; [ $? = "$1" ]; }
+setting() { grep -qx "$1" "$settings"; }
+active_is() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
+key() { xdotool key --clearmodifiers "$@"; } # the program takes keys in their order, however late
+# key_until CAPTION KEY...: presses them until that window has the keyboard. For keys that may come too early;
+# where the window is only late, pressing them again would be once too often, so that it gets some time.
+key_until() { eventually pressed_shows "$@"; }
+pressed_shows() {
+    local title=$1 i
+    shift
+    active_is "$title" || key "$@"
+    for i in $(seq 100); do
+        active_is "$title" && return
         sleep 0.1
     done
     return 1
 }
-start() {
-    "$folder/belgenar" >>"$work/gunluk" 2>&1 &
-    program=$!
-    window=$(wait_for_window "$caption") && sleep 0.5
-}
-running() { kill -0 "$program" 2>/dev/null; }
-ended() { ! running; }
-ended_with() { wait "$program"; [ $? = "$1" ]; }
-setting() { grep -qx "$1" "$settings"; }
-active_is() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
-key() { xdotool key --clearmodifiers "$@"; sleep 0.15; }
-fails_with() { # fails_with TEXT-NUMBER: the program shows a box; Enter ends it with status 1
+refusal_closed() { ! running || { active_is Belgenar && key Return; ! running; }; } # the splash may be it still
+fails_with() { # fails_with [NUMBER]: the program shows a box; Enter ends it with status 1
     "$folder/belgenar" >"$work/red" 2>&1 &
     program=$!
-    local i
-    for i in $(seq 40); do # the splash stands first, then the box
-        running || break
-        key Return
-    done
-    running && { kill -9 "$program"; return 1; }
+    eventually refusal_closed || { kill -9 "$program"; return 1; }
     ended_with 1 || return 1
     [ -z "${1-}" ] || grep -q "belgenar: $1 " "$work/red"
 }
@@ -90,19 +83,16 @@ check "kitaplık aynıdır" same_library
 # Finding a word in all articles selects the author of the only article that holds it.
 check "bulmak için açılır" start
 key Tab Tab Tab Tab Tab
-xdotool type --delay 50 "JÜGLON"
-key alt+t
-sleep 0.5
-key Escape
-eventually active_is Belgenar
+types "JÜGLON"
+key Tab Tab Tab space
+key_until Belgenar Escape # while it seeks, Esc does nothing
 key Return
 check "aramadan sonra çıkılır" eventually ended
 check "bulunan makalenin yazarı seçilidir" setting "Son%20Yazar=6"
 
 # Adding from an RTF file, changing, deleting: the library is as before in the end.
 printf '{\\rtf1\\ansi\\ansicpg1254 {\\b K\\u305?\\'"'fe}"' geldi,\\par i\\'"'e7ten.}" >"$work/kis.rtf"
-menu() { key alt+m; key "$1"; sleep 0.2; } # menu MNEMONIC: an entry of the article menu
-types() { xdotool type --delay 30 "$1"; sleep 0.15; }
+menu() { key alt+m; key "$1"; } # menu MNEMONIC: an entry of the article menu
 holds() { dump | grep -F "KIŞ´IN" | grep -qF "$1"; }
 check "eklemek için açılır" start
 menu e
@@ -117,11 +107,12 @@ key Return
 eventually active_is "Listeye Makale Ekle..."
 key alt+o
 check "dosya sorulur" eventually active_is "Dosya Aç..."
-types "$work/kis.rtf"; key Return
-eventually active_is "Listeye Makale Ekle..."
-sleep 0.3
+types "$work/kis.rtf"
+key_until "Listeye Makale Ekle..." Return # the dialog reads the folder first
+cp "$folder/Makale.mde" "$work/once"
+saved() { ! cmp -s "$folder/Makale.mde" "$work/once" && [ ! -e "$folder/Makale.mde-journal" ]; }
 key alt+e
-sleep 0.5
+eventually saved
 kill -KILL "$program"
 wait "$program" 2>/dev/null
 check "öldürülse de eklenen makale kalır" holds "Kış geldi,\\niçten."
@@ -147,9 +138,9 @@ check "değiştirilen makale silinmiştir" same_library
 
 # Printing, the word processor (a stand-in that keeps what it was given), a reference.
 mkdir "$work/bin"
-printf '#!/bin/sh\nfor file; do :; done\ncp "$file" "%s"\nsleep 3\n' "$work/belge.rtf" >"$work/bin/soffice"
+printf '#!/bin/sh\nfor file; do :; done\ncp "$file" "%s"\nexec tail -f --pid=$PPID /dev/null\n' "$work/belge.rtf" >"$work/bin/soffice"
 chmod +x "$work/bin/soffice"
-text_menu() { key alt+n Menu; key "$@"; sleep 0.3; } # text_menu KEY...: an entry of the shown text's menu
+text_menu() { key alt+n Menu; key "$@"; } # text_menu KEY...: an entry of the shown text's menu
 if start_print_service "$work"; then
     PATH=$work/bin:$PATH start
     text_menu Down Down Return
@@ -167,9 +158,8 @@ PATH=$work/bin:$PATH start
 key alt+n ctrl+a
 text_menu w
 check "metin kelime işlemciye gider" eventually grep -qsF '{\rtf1' "$work/belge.rtf"
-sleep 2 # until the program is sure that the other one stays
-menu r
-check "referans penceresi açılır" eventually active_is "Referans Bilgisi Oluşturma..."
+# While the program waits for the other one, keys are lost.
+check "referans penceresi açılır" key_until "Referans Bilgisi Oluşturma..." alt+m r
 key Tab Return
 cited() { xclip -o -selection clipboard -t UTF8_STRING | grep -qx 'Cevdet Özpınar, "Depremle Yaşamak", Kocaeli, 17 Ağustos 2001'; }
 check "referans panoya kopyalanır" eventually cited
@@ -180,8 +170,9 @@ check "kelime işlemciden sonra kapanır" eventually ended
 # Second start: at a stored place; a second instance only brings the first one forward.
 sed -i 's/^Tam%20Ekran=.*/Tam%20Ekran=0\nSol=1500\nUst=1200/' "$settings"
 check "yeniden açılır" start
-xdotool windowminimize "$window"
-sleep 0.5
+xdotool windowminimize "$(xdotool getactivewindow)"
+minimised() { ! active_is "$caption"; }
+eventually minimised
 check "ikinci örnek 0 ile biter" "$folder/belgenar"
 check "ilk örnek öne gelir" eventually active_is "$caption"
 key Escape
@@ -219,9 +210,10 @@ for case in "boş:3902:: > %s" "yarım:3901:truncate -s 50000 %s" "yabancı:3343
     done
 done
 restore
-(exec 9<"$folder"; flock 9; exec sleep 30) &
+(exec 9<"$folder"; flock 9; exec sleep 600) &
 locker=$!
-sleep 0.3
+locked() { ! flock -n "$folder" true; }
+eventually locked
 check "kilitli klasör: 3045" fails_with 3045
 kill "$locker"
 wait "$locker" 2>/dev/null

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # A print service of the tests' own, whose only printer writes PDF files that keep their text.
-# Sourced, it gives the functions below; run as tests/yazdırma.sh BUILD-FOLDER it prints through the
-# program's code, with a line "ok ..." or "FAIL ..." for each step.
+# Sourced after scripts/ortak.sh, it gives the functions below; run as tests/yazdırma.sh BUILD-FOLDER it
+# prints through the program's code, with a line "ok ..." or "FAIL ..." for each step.
 
 # start_print_service FOLDER: what is printed on the printer Deneme, the default one, goes to
 # FOLDER/baski.pdf. Sets CUPS_SERVER. Fails where there is no service or no right to run it.
 start_print_service() {
-    local output=$1/baski.pdf ppd=/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd name i
+    local output=$1/baski.pdf ppd=/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd name
     [ "$(id -u)" = 0 ] && [ -r "$ppd" ] && command -v cupsd lpadmin lpstat >/dev/null || return 1
     PRINT_SERVICE=$(mktemp -d) # the service's filters run as another user, who must get in
     chmod 755 "$PRINT_SERVICE"
@@ -37,14 +37,13 @@ END
     cupsd -f -c "$PRINT_SERVICE/root/cupsd.conf" -s "$PRINT_SERVICE/root/cups-files.conf" >/dev/null 2>&1 &
     PRINT_SERVICE_PID=$!
     export CUPS_SERVER=$PRINT_SERVICE/sock
-    for i in $(seq 50); do
-        lpstat -r 2>/dev/null | grep -q 'is running' && break
-        sleep 0.1
-    done
+    eventually service_settled
     lpadmin -p Deneme -E -v "file:$output" -P "$ppd" 2>/dev/null && lpadmin -d Deneme && return 0
     stop_print_service
     return 1
 }
+
+service_settled() { lpstat -r 2>/dev/null | grep -q 'is running' || ! kill -0 "$PRINT_SERVICE_PID"; }
 
 stop_print_service() {
     kill "$PRINT_SERVICE_PID" 2>/dev/null
@@ -55,18 +54,16 @@ stop_print_service() {
 
 # printed FOLDER: waits for the jobs and writes the words on the paper to standard output.
 printed() {
-    local i
-    for i in $(seq 100); do
-        [ -s "$1/baski.pdf" ] && [ -z "$(lpstat -W not-completed)" ] && break
-        sleep 0.1
-    done
+    eventually all_printed "$1/baski.pdf"
     pdftotext -layout "$1/baski.pdf" - 2>/dev/null
 }
+all_printed() { [ -s "$1" ] && [ -z "$(lpstat -W not-completed)" ]; }
 
 [ "${BASH_SOURCE[0]}" = "$0" ] || return 0
 set -u
+. "$(dirname "$0")/../scripts/ortak.sh"
 . "$(dirname "$0")/denetim.sh"
-export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+export QT_QPA_PLATFORM=offscreen
 print_test=$(readlink -f "$1")/tests/yazdirma_denemesi
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
