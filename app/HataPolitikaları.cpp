@@ -41,8 +41,8 @@ HataBilgisi ŞimdikiHata()
 
 QString HataMetni(int metin, const HataBilgisi& hata)
 {
-    return QStringLiteral("%1\n\n%2 %3\n\n%4 %5")
-        .arg(Metin(metin), Metin(15), QString::number(hata.Numara), Metin(20), hata.Açıklama);
+    return Paragraflar({Metin(metin), Metin(15) + u' ' + QString::number(hata.Numara),
+                        Metin(20) + u' ' + hata.Açıklama});
 }
 
 void HataBildirVeÇık(const HataBilgisi& hata)

@@ -33,7 +33,8 @@ private:
 /// The exception being handled; to be called inside a catch block only.
 HataBilgisi ŞimdikiHata();
 
-/// What users are told of an error: the text with this number, then the error's number and description.
+/// What users are told of an error: the text with this number, then the error's number and description, each
+/// a paragraph.
 QString HataMetni(int metin, const HataBilgisi& hata);
 
 /// Shows the error with its number and description, and ends the program. Does not return.

@@ -30,14 +30,17 @@ std::optional<SürümBilgisi> SürümBilgisiAl()
     return sürüm;
 }
 
-bool SürümUygun(const SürümBilgisi& sürüm)
+int SürümReddi(const std::optional<SürümBilgisi>& sürüm)
 {
-    if (sürüm.Platform != NT || sürüm.Ana > NTSürümü)
-        return true;
-    if (sürüm.Ana < NTSürümü)
-        return false;
-    const QString paket = sürüm.ServisPaketi.section(QChar(u'\0'), 0, 0);
-    return paket != QLatin1String("Service Pack 1") && paket != QLatin1String("Service Pack 2");
+    constexpr int yanıtYok = 25, eskiNT = 30;
+    if (!sürüm)
+        return yanıtYok;
+    if (sürüm->Platform != NT || sürüm->Ana > NTSürümü)
+        return 0;
+    if (sürüm->Ana < NTSürümü)
+        return eskiNT;
+    const QString paket = sürüm->ServisPaketi.section(QChar(u'\0'), 0, 0);
+    return paket == QLatin1String("Service Pack 1") || paket == QLatin1String("Service Pack 2") ? eskiNT : 0;
 }
 
 bool DosyaVar(const QString& yol)

@@ -25,6 +25,11 @@ QMessageBox::Icon kutuSimgesi(İletiSimgesi simge)
 
 } // namespace
 
+QString Paragraflar(const QStringList& paragraflar)
+{
+    return paragraflar.join(QLatin1String("\r\n\r\n"));
+}
+
 İletiYanıtı İletiGöster(const QString& metin, İletiSimgesi simge, İletiDüğmeleri düğmeler, İletiYeri yer)
 {
     QWidget* etkin = yer == İletiYeri::EtkinPencere ? QApplication::activeWindow() : nullptr;
@@ -34,7 +39,7 @@ QMessageBox::Icon kutuSimgesi(İletiSimgesi simge)
     kutu.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
     kutu.setTextFormat(Qt::PlainText); // file names and articles may hold anything
-    kutu.setText(metin);
+    kutu.setText(QString(metin).replace(QLatin1String("\r\n"), QLatin1String("\n"))); // the toolkit's line end
     kutu.setIcon(kutuSimgesi(simge));
     if (düğmeler == İletiDüğmeleri::Tamam) {
         kutu.setStandardButtons(QMessageBox::Ok);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 enum class İletiSimgesi
 {
@@ -28,7 +29,11 @@ enum class İletiYeri
     Ekran
 };
 
+/// The paragraphs with an empty line between each two of them; lines end with CR and LF.
+QString Paragraflar(const QStringList& paragraflar);
+
 /// Shows a modal box titled with the program's name, owned by the active window or standing on the screen
 /// alone, and waits for the answer. Closing the box answers Hayır where there is a choice.
+/// @param metin plain text; its lines end with LF, or CR and LF
 İletiYanıtı İletiGöster(const QString& metin, İletiSimgesi simge, İletiDüğmeleri düğmeler,
                         İletiYeri yer = İletiYeri::EtkinPencere);

@@ -60,8 +60,8 @@ void AnaForm::yazdır()
     const QList<Yazıcı> yazıcılar = Yazıcılar();
     QGuiApplication::restoreOverrideCursor();
     if (yazıcılar.isEmpty()) {
-        İletiGöster(QStringLiteral("Bilgisayarınızda yüklü bir YAZICI yok!\n\n"
-                                   "Lütfen, bir yazıcı yükleyip tekrar deneyiniz."),
+        İletiGöster(Paragraflar({QStringLiteral("Bilgisayarınızda yüklü bir YAZICI yok!"),
+                                 QStringLiteral("Lütfen, bir yazıcı yükleyip tekrar deneyiniz.")}),
                     İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam, İletiYeri::Ekran);
         return;
     }

@@ -49,11 +49,9 @@ void diliKur(QApplication& uygulama)
 void sürümüDenetle()
 {
     const auto sürüm = SürümBilgisiAl();
-    if (!sürüm)
-        reddet(25);
-    NTPlatformu = sürüm->Platform == 2;
-    if (!SürümUygun(*sürüm))
-        reddet(30);
+    NTPlatformu = sürüm && sürüm->Platform == 2;
+    if (const int metin = SürümReddi(sürüm))
+        reddet(metin);
 }
 
 /// The toolkit can't name a folder whose bytes are no UTF-8: without this the library would seem missing.

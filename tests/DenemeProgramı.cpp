@@ -1,11 +1,7 @@
 #include "DenemeProgramı.h"
 
-#include "app/OrtakDeğişkenlerModülü.h"
-
 #include <QApplication>
-#include <QDialog>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTest>
@@ -36,20 +32,10 @@ KutuYanıtlayıcı::KutuYanıtlayıcı(Yanıt yanıt, std::function<void(QMessag
         Metin = kutu->text();
         if (önce)
             önce(*kutu);
-        switch (yanıt) {
-        case Yanıt::Tamam:
-            kutu->button(QMessageBox::Ok)->click();
-            break;
-        case Yanıt::Evet:
-            kutu->button(QMessageBox::Yes)->click();
-            break;
-        case Yanıt::Hayır:
-            kutu->button(QMessageBox::No)->click();
-            break;
-        case Yanıt::Kapat:
+        if (yanıt == Yanıt::Kapat)
             kutu->close();
-            break;
-        }
+        else
+            kutu->button(QMessageBox::StandardButton(yanıt))->click();
     });
     saat_->start(20);
 }
@@ -61,7 +47,10 @@ bool PencereAç(const std::function<void()>& aç, const std::function<void(QDial
     bool açıldı = false;
     QTimer::singleShot(0, qApp, [&] {
         auto* kutu = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!kutu || !QTest::qWaitForWindowActive(kutu, BeklemeSınırı))
+        if (!kutu)
+            return;
+        kutu->activateWindow(); // as a window manager does
+        if (!QTest::qWaitFor([kutu] { return kutu->isActiveWindow(); }, BeklemeSınırı))
             return;
         kullanıcı(*kutu);
         açıldı = true;

@@ -8,13 +8,9 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "forms/AnaForm.h"
 
-#include <QTemporaryDir>
+#include <QMessageBox>
 
 #include <functional>
-
-class QDialog;
-class QMessageBox;
-class QWidget;
 
 /// How long waits go on at most, in ms; they end as soon as what they wait for is there.
 constexpr int BeklemeSınırı = 120'000;
@@ -51,10 +47,10 @@ class KutuYanıtlayıcı
 public:
     enum class Yanıt
     {
-        Tamam,
-        Evet,
-        Hayır,
-        Kapat
+        Kapat,
+        Tamam = QMessageBox::Ok,
+        Evet = QMessageBox::Yes,
+        Hayır = QMessageBox::No
     };
     /// @param önce called while the box stands, before it is answered
     explicit KutuYanıtlayıcı(Yanıt yanıt, std::function<void(QMessageBox&)> önce = {});
