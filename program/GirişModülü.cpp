@@ -1,5 +1,6 @@
 #include "program/GirişModülü.h"
 
+#include "app/Dil.h"
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/KapatmaSinyalleri.h"
@@ -14,26 +15,12 @@
 #include "store/MakaleKitaplığı.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QScopeGuard>
 #include <QSessionManager>
-#include <QTranslator>
 
 #include <optional>
 
 namespace {
-
-/// Turkish for all that the toolkit itself says, whatever the environment's language.
-void diliKur(QApplication& uygulama)
-{
-    QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
-    auto* çeviri = new QTranslator(&uygulama);
-    if (çeviri->load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(çeviri);
-    else
-        qWarning("belgenar: qtbase_tr is missing; standard buttons will not be Turkish");
-}
 
 [[noreturn]] void reddet(int metin)
 {
@@ -86,7 +73,7 @@ int SubMain(QApplication& uygulama)
     std::optional<TekÖrnek> tekÖrnek;
     std::optional<KarşılamaFormu> karşılama;
     return HatadaBildirVeÇık([&] {
-        diliKur(uygulama);
+        DiliKur();
         uygulama.setFont(FormYazıTipi());
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
         AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - ") + Metin(5) + u' ' + SürümMetni();
