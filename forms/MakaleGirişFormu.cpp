@@ -6,6 +6,7 @@
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "controls/DosyaSorucu.h"
 #include "controls/Etiketler.h"
 #include "controls/MetinDosyası.h"
 #include "text/TürkçeHarfler.h"
@@ -13,7 +14,6 @@
 
 #include <QClipboard>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -214,12 +214,9 @@ void MakaleGirişFormu::panodanYapıştır()
 
 void MakaleGirişFormu::dosyadanYükle()
 {
-    QFileDialog sorucu(this, Metin(425), başlangıçKlasörü());
-    sorucu.setFileMode(QFileDialog::ExistingFile);
-    sorucu.setNameFilters({Metin(415), Metin(420)});
-    if (sorucu.exec() != QDialog::Accepted || sorucu.selectedFiles().isEmpty())
+    const QString yol = DosyaSor(*this, Metin(425), başlangıçKlasörü(), {Metin(415), Metin(420)});
+    if (yol.isEmpty())
         return;
-    const QString yol = sorucu.selectedFiles().constFirst();
     const auto uyar = [](const QString& neden) {
         İletiGöster(neden, İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
     };
