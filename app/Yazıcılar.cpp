@@ -32,6 +32,7 @@ constexpr double KenarBoşluğu = 20;   // mm
 constexpr double SekmeAralığı = 720;  // twips
 constexpr int BoyamaAralığı = 50;     // ms between two paintings of the windows
 constexpr qsizetype ParçaBoyu = 4096; // UTF-16 units laid out at a time
+constexpr qsizetype EnUzunİşAdı = 80; // UTF-16 units; the service takes 255 bytes
 
 QString seçilenAd;    // in this run
 QString varsayılanAd; // as last listed; the first printer where the service names none
@@ -72,6 +73,14 @@ QList<BulunanYazıcı> hizmeteSor()
         bulunanlar.append({{ad, QString::fromUtf8(adres)}, hedef.is_default != 0});
     }
     return bulunanlar;
+}
+
+QString işAdı(const QString& başlık)
+{
+    QString ad = başlık.left(EnUzunİşAdı).simplified();
+    if (!ad.isEmpty() && ad.back().isHighSurrogate()) // cut between the two halves
+        ad.chop(1);
+    return ad.isEmpty() ? Metin(5) : ad;
 }
 
 /// Puts lines on pages, one below the other.
@@ -193,7 +202,7 @@ void GeçerliYazıcı(const QString& ad)
     seçilenAd = ad;
 }
 
-void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta)
+void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta, const QString& başlık)
 {
     if (metin.isEmpty())
         return;
@@ -210,7 +219,7 @@ void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta)
 
     QPrinter yazıcı(QPrinter::HighResolution);
     yazıcı.setPrinterName(ad);
-    yazıcı.setDocName(Metin(5));
+    yazıcı.setDocName(işAdı(başlık));
     if (!yazıcı.pageLayout().isValid())
         yazıcı.setPageSize(QPageSize(QPageSize::A4));
     // The paper of a label printer has no room for the margins of a letter.

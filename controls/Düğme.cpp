@@ -20,7 +20,8 @@ bool Düğme::event(QEvent* olay)
 {
     if (olay->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(olay)->isAmbiguous()) {
         setFocus(Qt::ShortcutFocusReason);
-        if (!hasFocus())
+        if (window()->focusWidget() !=
+            this) // the window itself need not be active: a box may just have closed
             return true;
     }
     return QPushButton::event(olay);

@@ -175,7 +175,10 @@ void ListeKutusu::keyboardSearch(const QString& harf)
 
 void ListeKutusu::currentChanged(const QModelIndex& şimdiki, const QModelIndex& önceki)
 {
-    QListView::currentChanged(şimdiki, önceki);
+    if (hasFocus())
+        QListView::currentChanged(şimdiki, önceki);
+    else // without telling screen readers that the entry has the focus
+        QAbstractItemView::currentChanged(şimdiki, önceki);
     if (!sessiz_ && şimdiki.isValid() && Click)
         Click();
 }

@@ -4,8 +4,9 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFocusEvent>
+#include <QEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 
 namespace {
 
@@ -17,48 +18,67 @@ QLineEdit& yazıKutusu(QWidget& kontrol)
 
 } // namespace
 
+OdakEtiketi::OdakEtiketi()
+{
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, QWidget* kontrol) { odakDeğişti(kontrol); });
+}
+
 void OdakEtiketi::Bağla(QWidget& kontrol, QLabel& etiket, Giriş giriş, std::function<void()> çıkış)
 {
     bağlar_.insert(&kontrol, {&etiket, giriş, std::move(çıkış)});
-    kontrol.installEventFilter(this);
+    pencere_ = kontrol.window();
+    pencere_->installEventFilter(this);
 }
 
-bool OdakEtiketi::eventFilter(QObject* nesne, QEvent* olay)
+bool OdakEtiketi::eventFilter(QObject*, QEvent* olay)
 {
-    if (olay->type() == QEvent::FocusIn) {
-        if (nesne != odaklı_) // else the window came back to the front
-            odakGeldi(*static_cast<QWidget*>(nesne));
-    } else if (olay->type() == QEvent::FocusOut && nesne == odaklı_) {
-        const Qt::FocusReason neden = static_cast<QFocusEvent*>(olay)->reason();
-        if (neden != Qt::ActiveWindowFocusReason && neden != Qt::PopupFocusReason &&
-            neden != Qt::MenuBarFocusReason && !QApplication::activePopupWidget())
-            Ayrıl();
-    }
+    if (olay->type() == QEvent::WindowBlocked)
+        boya(Ton::Olağan);
+    else if (olay->type() == QEvent::WindowUnblocked)
+        boya(Ton::Mavi);
     return false;
+}
+
+// Once the window is back, the focus may be elsewhere than it was when it went.
+void OdakEtiketi::odakDeğişti(QWidget* kontrol)
+{
+    if (!kontrol || kontrol->window() != pencere_ || kontrol == odaklı_ || qobject_cast<QMenuBar*>(kontrol))
+        return;
+    Ayrıl();
+    if (bağlar_.contains(kontrol))
+        odakGeldi(*kontrol);
 }
 
 void OdakEtiketi::odakGeldi(QWidget& kontrol)
 {
-    Ayrıl();
     odaklı_ = &kontrol;
-    const Bağ& bağ = bağlar_[&kontrol];
-    QPalette palet = bağ.etiket->palette();
-    const QColor mavi = OkunurTon(EkranRengi(OdakMavisi, palet), palet.color(QPalette::Window));
-    palet.setColor(QPalette::Active, QPalette::WindowText, mavi);
-    palet.setColor(QPalette::Inactive, QPalette::WindowText, mavi);
-    bağ.etiket->setPalette(palet);
-    if (bağ.giriş == Giriş::TümünüSeç) // after the press that brought the focus has placed the caret
+    boya(Ton::Mavi);
+    if (bağlar_[&kontrol].giriş ==
+        Giriş::TümünüSeç) // after the press that brought the focus has placed the caret
         QMetaObject::invokeMethod(
             &kontrol, [&kontrol] { yazıKutusu(kontrol).selectAll(); }, Qt::QueuedConnection);
 }
 
+void OdakEtiketi::boya(Ton ton)
+{
+    if (!odaklı_)
+        return;
+    QLabel& etiket = *bağlar_[odaklı_].etiket;
+    QPalette palet;
+    if (ton == Ton::Mavi) {
+        palet = etiket.palette();
+        const QColor mavi = OkunurTon(EkranRengi(OdakMavisi, palet), palet.color(QPalette::Window));
+        palet.setColor(QPalette::Active, QPalette::WindowText, mavi);
+        palet.setColor(QPalette::Inactive, QPalette::WindowText, mavi);
+    }
+    etiket.setPalette(palet);
+}
+
 void OdakEtiketi::Ayrıl()
 {
+    boya(Ton::Olağan);
     QWidget* kontrol = std::exchange(odaklı_, nullptr);
-    if (!kontrol)
-        return;
-    const Bağ& bağ = bağlar_[kontrol];
-    bağ.etiket->setPalette(QPalette());
-    if (bağ.çıkış)
-        AdımAdım(bağ.çıkış);
+    if (kontrol && bağlar_[kontrol].çıkış)
+        AdımAdım(bağlar_[kontrol].çıkış);
 }

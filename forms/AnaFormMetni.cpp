@@ -45,8 +45,10 @@ void AnaForm::TümünüSeçMenüsü_Click()
 
 void AnaForm::KopyalaMenüsü_Click()
 {
-    Olay("KopyalaMenüsü_Click",
-         [this] { QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText()); });
+    Olay("KopyalaMenüsü_Click", [this] {
+        if (!MakaleMetniKutusu.document()->isEmpty())
+            QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText());
+    });
 }
 
 void AnaForm::YazdırMenüsü_Click()
@@ -74,7 +76,7 @@ void AnaForm::yazdır()
     YazdırKutusu.Text(MakaleMetniKutusu.SelLength() == 0 ? MakaleMetniKutusu.Text()
                                                          : MakaleMetniKutusu.SelText());
     const auto sonunda = qScopeGuard([this] { YazdırKutusu.Text({}); });
-    MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize());
+    MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize(), SeçiliMakale());
 }
 
 void AnaForm::WordeYapıştırMenüsü_Click()

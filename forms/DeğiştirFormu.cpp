@@ -29,8 +29,8 @@ DeğiştirFormu::DeğiştirFormu(AnaForm& anaForm)
                         .KaydetYazısı = 410,
                         .VazgeçYazısı = 377})
 {
-    connect(&KaydetDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::KaydetDüğmesi_Click);
-    connect(&VazgeçDüğmesi, &QPushButton::clicked, this, &DeğiştirFormu::VazgeçDüğmesi_Click);
+    basılınca(KaydetDüğmesi, [this] { KaydetDüğmesi_Click(); });
+    basılınca(VazgeçDüğmesi, [this] { VazgeçDüğmesi_Click(); });
     Form_Load();
 }
 
@@ -55,19 +55,17 @@ Recordset DeğiştirFormu::seçiliMakale() const
 
 void DeğiştirFormu::KaydetDüğmesi_Click()
 {
-    İlkHatadaBit([this] {
-        if (!alanlarTamam())
-            return;
-        Recordset kayıtlar = seçiliMakale();
-        kayıtlar.Edit();
-        alanlarıYaz(kayıtlar);
-        kayıtlar.Update();
-        kayıtlar.Close();
-        anaForm_.YazarListesiYükle();
-        DeğiştirilenYazarAdı = YazarAdıListesi.Text();
-        DeğiştirilenMakaleBaşlığı = MakaleBaşlığıKutusu.Text();
-        accept();
-    });
+    if (!alanlarTamam())
+        return;
+    Recordset kayıtlar = seçiliMakale();
+    kayıtlar.Edit();
+    alanlarıYaz(kayıtlar);
+    kayıtlar.Update();
+    kayıtlar.Close();
+    anaForm_.YazarListesiYükle();
+    DeğiştirilenYazarAdı = YazarAdıListesi.Text();
+    DeğiştirilenMakaleBaşlığı = MakaleBaşlığıKutusu.Text();
+    accept();
 }
 
 void DeğiştirFormu::VazgeçDüğmesi_Click()

@@ -26,8 +26,8 @@ EkleFormu::EkleFormu(AnaForm& anaForm)
                         .KaydetYazısı = 370,
                         .VazgeçYazısı = 375})
 {
-    connect(&EkleKaydetButonu, &QPushButton::clicked, this, &EkleFormu::EkleKaydetButonu_Click);
-    connect(&İptalKapatButonu, &QPushButton::clicked, this, &EkleFormu::İptalKapatButonu_Click);
+    basılınca(EkleKaydetButonu, [this] { EkleKaydetButonu_Click(); });
+    basılınca(İptalKapatButonu, [this] { İptalKapatButonu_Click(); });
     Form_Load();
 }
 
@@ -49,12 +49,10 @@ void EkleFormu::düğmeleriKilitle()
 
 void EkleFormu::EkleKaydetButonu_Click()
 {
-    İlkHatadaBit([this] {
-        if (!GirişDurumunda())
-            girişeBaşla();
-        else if (alanlarTamam())
-            kaydet();
-    });
+    if (!GirişDurumunda())
+        girişeBaşla();
+    else if (alanlarTamam())
+        kaydet();
 }
 
 void EkleFormu::girişeBaşla()
@@ -95,12 +93,10 @@ void EkleFormu::İptalKapatButonu_Click()
         accept();
         return;
     }
-    İlkHatadaBit([this] {
-        düğmeleriKilitle();
-        alanlarıBoşalt();
-        alanlarıKilitle();
-        eklenen_.reset();
-    });
+    düğmeleriKilitle();
+    alanlarıBoşalt();
+    alanlarıKilitle();
+    eklenen_.reset();
 }
 
 void EkleFormu::alanlarıBoşalt()

@@ -6,6 +6,7 @@
 #include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "controls/DosyaSorucu.h"
 #include "controls/Etiketler.h"
 #include "controls/MetinDosyası.h"
 #include "text/TürkçeHarfler.h"
@@ -13,7 +14,6 @@
 
 #include <QClipboard>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -49,8 +49,8 @@ MakaleGirişFormu::MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adl
     yerleştir();
     tuşlarıBağla();
     odaklarıBağla();
-    connect(&yapıştır_, &QPushButton::clicked, this, [this] { İlkHatadaBit([this] { panodanYapıştır(); }); });
-    connect(&dosyaYükle_, &QPushButton::clicked, this, [this] { İlkHatadaBit([this] { dosyadanYükle(); }); });
+    basılınca(yapıştır_, [this] { panodanYapıştır(); });
+    basılınca(dosyaYükle_, [this] { dosyadanYükle(); });
     TürkçeKarakterKümesiUygula(*this);
     resize(FormPikseli(OlağanGenişlik), FormPikseli(OlağanYükseklik));
 }
@@ -126,6 +126,16 @@ void MakaleGirişFormu::tuşlarıBağla()
     YayımTarihiKutusu.KeyPress = [this](char16_t& kod) { KutuSüzgeci(YayımTarihiKutusu, kod); };
 }
 
+void MakaleGirişFormu::basılınca(Düğme& düğme, std::function<void()> iş)
+{
+    connect(&düğme, &QPushButton::clicked, this, [this, &düğme, iş = std::move(iş)] {
+        İlkHatadaBit([&] {
+            if (tarihDenetimi_.OdağıVer(düğme))
+                iş();
+        });
+    });
+}
+
 void MakaleGirişFormu::odaklarıBağla()
 {
     for (std::size_t i = 0; i < Etiket.size(); ++i) {
@@ -150,15 +160,15 @@ void MakaleGirişFormu::alanıDüzelt(QWidget& alan)
     }
 }
 
-AyrılışDenetimi::Karar MakaleGirişFormu::tarihiDenetle()
+bool MakaleGirişFormu::tarihUygun()
 {
-    using Karar = AyrılışDenetimi::Karar;
     YayımTarihiKutusu.Text(YayımTarihiKutusu.KırpıkText());
-    if (YayımTarihiKutusu.Text().isEmpty() || TürkçeTarihMi(YayımTarihiKutusu.Text()))
-        return Karar::Serbest;
-    return İletiGöster(Metin(430), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır) == İletiYanıtı::Evet
-               ? Karar::Onaylı
-               : Karar::Kalsın;
+    return YayımTarihiKutusu.Text().isEmpty() || TürkçeTarihMi(YayımTarihiKutusu.Text());
+}
+
+bool MakaleGirişFormu::tarihiSor()
+{
+    return İletiGöster(Metin(430), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır) == İletiYanıtı::Evet;
 }
 
 void MakaleGirişFormu::yazarlarıYükle(const QString& sorgu)
@@ -214,12 +224,9 @@ void MakaleGirişFormu::panodanYapıştır()
 
 void MakaleGirişFormu::dosyadanYükle()
 {
-    QFileDialog sorucu(this, Metin(425), başlangıçKlasörü());
-    sorucu.setFileMode(QFileDialog::ExistingFile);
-    sorucu.setNameFilters({Metin(415), Metin(420)});
-    if (sorucu.exec() != QDialog::Accepted || sorucu.selectedFiles().isEmpty())
+    const QString yol = DosyaSor(*this, Metin(425), başlangıçKlasörü(), {Metin(415), Metin(420)});
+    if (yol.isEmpty())
         return;
-    const QString yol = sorucu.selectedFiles().constFirst();
     const auto uyar = [](const QString& neden) {
         İletiGöster(neden, İletiSimgesi::Uyarı, İletiDüğmeleri::Tamam);
     };

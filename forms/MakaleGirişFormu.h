@@ -13,6 +13,7 @@
 #include <QLabel>
 
 #include <array>
+#include <functional>
 
 class AnaForm;
 
@@ -31,6 +32,9 @@ protected:
     };
     MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adlar& adlar);
 
+    /// Ties a button to what it does, whoever presses it: a hand, or a screen reader, which leaves the focus
+    /// where it is. An error ends it silently.
+    void basılınca(Düğme& düğme, std::function<void()> iş);
     /// Adds the authors that the query gives to the author list.
     void yazarlarıYükle(const QString& sorgu);
     /// Checks the fields in their order; the first that is not filled as it must be is told and gets the
@@ -62,8 +66,11 @@ private:
     void dosyadanYükle();
     /// Trims a field's text and brings it into its form; done when the focus leaves the field.
     void alanıDüzelt(QWidget& alan);
-    AyrılışDenetimi::Karar tarihiDenetle();
+    /// Trims the date and tells whether it needs no question.
+    bool tarihUygun();
+    /// @return whether the user keeps a date that is none
+    static bool tarihiSor();
 
     OdakEtiketi odakEtiketi_;
-    AyrılışDenetimi tarihDenetimi_{YayımTarihiKutusu, [this] { return tarihiDenetle(); }};
+    AyrılışDenetimi tarihDenetimi_{YayımTarihiKutusu, [this] { return tarihUygun(); }, &tarihiSor};
 };

@@ -1,6 +1,7 @@
 #include "program/GirişModülü.h"
 
 #include "app/BelgeAktarımı.h"
+#include "app/Dil.h"
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/KapatmaSinyalleri.h"
@@ -17,28 +18,14 @@
 #include "store/VeritabanıHatası.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QScopeGuard>
 #include <QSessionManager>
-#include <QTranslator>
 
 #include <filesystem>
 #include <optional>
 #include <string>
 
 namespace {
-
-/// Turkish for all that the toolkit itself says, whatever the environment's language.
-void diliKur(QApplication& uygulama)
-{
-    QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
-    auto* çeviri = new QTranslator(&uygulama);
-    if (çeviri->load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(çeviri);
-    else
-        qWarning("belgenar: qtbase_tr is missing; standard buttons will not be Turkish");
-}
 
 [[noreturn]] void reddet(int metin)
 {
@@ -98,7 +85,7 @@ int SubMain(QApplication& uygulama)
     std::optional<TekÖrnek> tekÖrnek;
     std::optional<KarşılamaFormu> karşılama;
     return HatadaBildirVeÇık([&] {
-        diliKur(uygulama);
+        DiliKur();
         FormÖlçüsünüKur(uygulama.font(), {AnaForm::EnAzGenişlik, AnaForm::EnAzYükseklik});
         uygulama.setFont(FormYazıTipi());
         const PencereYerleştirici yerleştirici(uygulama);

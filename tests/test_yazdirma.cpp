@@ -226,10 +226,10 @@ void TestPrinting::choice()
 void TestPrinting::stuckService()
 {
     GeçerliYazıcı(u"b"_s);
-    MetinYazdır({}, u"Liberation Sans"_s, 10); // nothing to print: nobody is asked
+    MetinYazdır({}, u"Liberation Sans"_s, 10, {}); // nothing to print: nobody is asked
     QElapsedTimer clock;
     clock.start();
-    QVERIFY_THROWS_EXCEPTION(ÇalışmaHatası, MetinYazdır(u"x"_s, u"Liberation Sans"_s, 10));
+    QVERIFY_THROWS_EXCEPTION(ÇalışmaHatası, MetinYazdır(u"x"_s, u"Liberation Sans"_s, 10, {}));
     QVERIFY(clock.elapsed() < BeklemeSınırı);
 }
 

@@ -145,6 +145,19 @@ if start_print_service "$work"; then
     PATH=$work/bin:$PATH start
     text_menu Down Down Return
     check "yazıcı sorulur" eventually active_is "Yazıcı Seç"
+    key Escape
+    eventually active_is "$caption"
+    key alt+n ctrl+Home shift+Right shift+Right shift+Right
+    text_menu Down Down Down Return
+    eventually active_is "Yazıcı Seç"
+    key Return
+    piece() { [ "$(printed "$work" | tr -d ' \n\f')" = "İki" ] && [ "$(lpstat -W all | wc -l)" = 1 ]; }
+    check "yalnız seçilen basılır, İptal'de hiçbir şey" piece
+    check "iş makalenin adını taşır" grep -aqrF "DEPREMLE YAŞAMAK" "$PRINT_SERVICE/spool"
+    rm "$work/baski.pdf"
+    key Home
+    text_menu Down Down Return
+    eventually active_is "Yazıcı Seç"
     key Return
     paper() { printed "$work" | grep -q "kırk beş saniye"; }
     check "makale kâğıda basılır" paper

@@ -26,7 +26,7 @@ void yazdır(const QString& yazıcı)
         GeçerliYazıcı(yazıcı);
     QFile dosya;
     if (dosya.open(stdin, QIODevice::ReadOnly))
-        MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11);
+        MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11, {});
 }
 
 } // namespace
