@@ -1,6 +1,7 @@
 #include "tools/JsonSatırları.h"
 
 #include "store/KitaplıkDenetimi.h"
+#include "store/SistemHatası.h"
 #include "store/Utf8Denetimi.h"
 #include "store/VeritabanıHatası.h"
 #include "tools/AraçHatası.h"
@@ -194,10 +195,8 @@ Makale SatırÇözücü::Çöz()
 int girdiyiAç(const QString& yol)
 {
     const int tanıtıcı = open(QFile::encodeName(yol).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (tanıtıcı < 0 && errno == EACCES)
-        throw VeritabanıHatası(HataNo::İzinYok, yol);
     if (tanıtıcı < 0)
-        throw VeritabanıHatası(errno == ENOENT ? HataNo::DosyaYok : HataNo::DiskHatası, yol);
+        SistemHatasıVer(errno, Erişim::Okuma, yol);
     return tanıtıcı;
 }
 
@@ -233,9 +232,9 @@ bool JsonSatırları::parçaOku()
         bekçi_.OkunurOlsun(dosya_.handle());
         boy = read(dosya_.handle(), parça_.data(), std::size_t(ParçaBoyu));
     } while (boy < 0 && (errno == EINTR || errno == EAGAIN));
-    parça_.resize(std::max<qsizetype>(boy, 0));
     if (boy < 0)
-        throw VeritabanıHatası(HataNo::DiskHatası, ad_);
+        SistemHatasıVer(errno, Erişim::Okuma, ad_);
+    parça_.resize(boy);
     okunan_ += boy;
     return boy > 0;
 }
