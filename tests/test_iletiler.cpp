@@ -27,14 +27,15 @@ namespace {
 QString under(const QMessageBox& box)
 {
     const QRect place = ÇerçeveliYer(box);
-    const auto over = [&place](const QRect& what) { return OrtalıYer(what, place.size()) == place.topLeft(); };
-    if (over(QGuiApplication::primaryScreen()->geometry()))
-        return {};
+    const auto over = [&place](const QRect& what) {
+        return OrtalıYer(what, place.size()) == place.topLeft();
+    };
     for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (window != &box && window->isVisible() && over(ÇerçeveliYer(*window)))
+        if (window != &box && window->isVisible() && window->objectName() != u"KarşılamaFormu"_s &&
+            over(ÇerçeveliYer(*window)))
             return window->objectName();
     }
-    return u"?"_s;
+    return over(QGuiApplication::primaryScreen()->geometry()) ? QString() : u"?"_s;
 }
 
 /// Title, picture, buttons with * behind the default one, the window below, text.
