@@ -153,7 +153,7 @@ if start_print_service "$work"; then
     key Return
     piece() { [ "$(printed "$work" | tr -d ' \n\f')" = "İki" ] && [ "$(lpstat -W all | wc -l)" = 1 ]; }
     check "yalnız seçilen basılır, İptal'de hiçbir şey" piece
-    check "iş makalenin adını taşır" grep -aqrF "DEPREMLE YAŞAMAK" "$PRINT_SERVICE/spool"
+    check "iş makalenin adını taşır" eventually grep -aqrF "DEPREMLE YAŞAMAK" "$PRINT_SERVICE/spool"
     rm "$work/baski.pdf"
     key Home
     text_menu Down Down Return

@@ -25,6 +25,7 @@ start_print_service() {
 Listen $PRINT_SERVICE/sock
 Browsing No
 DefaultAuthType None
+DirtyCleanInterval 0
 <Location />
   Allow all
 </Location>
