@@ -170,10 +170,9 @@ class Driver:
         self.start()
 
     def look_for_cut_off(self):
-        """Looks at each window once, when it is new. A box goes where the window below it is."""
+        """Looks at each window once, when it is new. The file dialog's own box grows with a file's name."""
         for window in self.windows() + self.popups():
-            boxes = ("Belgenar", FILE_DIALOG)
-            if window.id not in self.seen and self.name(window) not in boxes and not self.fits(window):
+            if window.id not in self.seen and self.name(window) != FILE_DIALOG and not self.fits(window):
                 time.sleep(0.5)  # it may be on its way
                 if not self.fits(window):
                     self.found(f"cut off the screen: {self.name(window)!r} {self.place(window)}")
@@ -296,10 +295,10 @@ class Driver:
         self.owner.stdin.close()
 
     def resize(self):
-        if self.target() not in self.popups():
-            screen = self.display.screen()
-            self.target().configure(width=self.pick.randint(1, screen.width_in_pixels),
-                                    height=self.pick.randint(1, screen.height_in_pixels))
+        window, screen = self.target(), self.display.screen()
+        if not window.get_attributes().override_redirect:
+            window.configure(width=self.pick.randint(1, screen.width_in_pixels),
+                             height=self.pick.randint(1, screen.height_in_pixels))
 
     def open(self):
         self.keys(*self.pick.choice([("alt+m", "e"), ("alt+m", "d"), ("alt+m", "s"), ("alt+m", "r"), ("alt+y",)]))
