@@ -33,11 +33,10 @@ std::shared_ptr<Bağlantı> DosyaBağlantısı(const QString& klasör, int önbe
 
 void Doldur(Recordset& kayıtlar, const Makale& makale)
 {
-    kayıtlar.Fields(u"YazarAdi").Value(makale.Yazar);
-    kayıtlar.Fields(u"MakaleBasligi").Value(makale.Başlık);
-    kayıtlar.Fields(u"MakaleMetni").Value(makale.Metin);
-    kayıtlar.Fields(u"YayimYeri").Value(makale.Yer);
-    kayıtlar.Fields(u"YayimTarihi").Value(makale.Tarih);
+    const std::initializer_list<QString> değerler = {makale.Yazar, makale.Başlık, makale.Yer, makale.Tarih,
+                                                     makale.Metin};
+    for (auto sütun = MakaleSütunları.begin(); const QString& değer : değerler)
+        kayıtlar.Fields((sütun++)->ad).Value(değer);
     kayıtlar.Update();
 }
 
