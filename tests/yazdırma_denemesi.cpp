@@ -10,36 +10,21 @@
 
 #include <cstdio>
 
-namespace {
-
-void listele()
-{
-    std::printf("%s\n", qUtf8Printable(GeçerliYazıcı()));
-    const QList<Yazıcı> yazıcılar = Yazıcılar();
-    for (const Yazıcı& yazıcı : yazıcılar)
-        std::printf("%s\t%s\n", qUtf8Printable(yazıcı.Ad), qUtf8Printable(yazıcı.BağlantıNoktası));
-}
-
-void yazdır(const QString& yazıcı)
-{
-    if (!yazıcı.isEmpty())
-        GeçerliYazıcı(yazıcı);
-    QFile dosya;
-    if (dosya.open(stdin, QIODevice::ReadOnly))
-        MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11, {});
-}
-
-} // namespace
-
 int main(int argc, char** argv)
 {
     const QApplication uygulama(argc, argv);
     const QStringList sözcükler = QCoreApplication::arguments();
+    QFile dosya;
     try {
-        if (sözcükler.size() < 2)
-            listele();
-        else
-            yazdır(sözcükler[1]);
+        if (sözcükler.size() < 2) {
+            std::printf("%s\n", qUtf8Printable(GeçerliYazıcı()));
+            const QList<Yazıcı> yazıcılar = Yazıcılar();
+            for (const Yazıcı& yazıcı : yazıcılar)
+                std::printf("%s\t%s\n", qUtf8Printable(yazıcı.Ad), qUtf8Printable(yazıcı.BağlantıNoktası));
+        } else if (dosya.open(stdin, QIODevice::ReadOnly)) {
+            GeçerliYazıcı(sözcükler[1]);
+            MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11, {});
+        }
         return 0;
     } catch (const ÇalışmaHatası& hata) {
         std::fprintf(stderr, "%d %s\n", hata.Numara(), hata.what());
