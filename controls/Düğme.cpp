@@ -20,8 +20,8 @@ bool Düğme::event(QEvent* olay)
 {
     if (olay->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(olay)->isAmbiguous()) {
         setFocus(Qt::ShortcutFocusReason);
-        if (window()->focusWidget() !=
-            this) // the window itself need not be active: a box may just have closed
+        const QWidget* odaklı = window()->focusWidget(); // in a window that need not be active yet again
+        if (odaklı != this)
             return true;
     }
     return QPushButton::event(olay);

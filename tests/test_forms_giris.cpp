@@ -12,8 +12,6 @@
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QIdentityProxyModel>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -22,11 +20,11 @@ using Yanıt = KutuYanıtlayıcı::Yanıt;
 
 namespace {
 
-constexpr int Bol = 60000; // ms that anything may take
-
 const QString TarihSorusu =
     u"Lütfen, tarihi doğru biçimde giriniz. Örneğin, \"Şubat 2003\" veya \"01 Şubat 2003\" gibi… \n"
     u"Eğer girdiğiniz biçimi korumak istiyorsanız lütfen, \"Evet\"i tıklayınız!"_s;
+const QString SilmeSorusu =
+    u"Silme işlemi geri alınamaz! Seçtiğiniz makaleyi silmek istediğinizden emin misiniz?"_s;
 const QString YazarAlanı = u"YazarAdıListesi"_s, BaşlıkAlanı = u"MakaleBaşlığıKutusu"_s,
               YerAlanı = u"YayımYeriKutusu"_s, TarihAlanı = u"YayımTarihiKutusu"_s,
               MetinAlanı = u"MakaleMetniKutusu"_s, BulAlanı = u"MakaleBulKutusu"_s;
@@ -71,11 +69,12 @@ struct Pencere
                           kontrol.mapTo(&Kutu, kontrol.rect().center()));
     }
     void Bas(const QString& düğme) { Bas(Düğmesi(düğme)); }
-    /// What a window manager does when a box above the window has gone.
+    /// What a window manager does when a box above the window has gone. (Qt's own waiting is content with its
+    /// owner.)
     void Etkinleş()
     {
         Kutu.activateWindow();
-        QTRY_VERIFY_WITH_TIMEOUT(Kutu.isActiveWindow(), Bol); // Qt's own waiting is content with the owner
+        QTRY_VERIFY_WITH_TIMEOUT(Kutu.isActiveWindow(), BeklemeSınırı);
     }
     void Doldur(const Makale& makale)
     {
@@ -87,10 +86,10 @@ struct Pencere
     }
 };
 
-/// Chooses a file in the next open dialog, or cancels it; keeps what it showed.
+/// Chooses a file in the next open dialog; keeps what it showed.
 struct DosyaSeçici
 {
-    explicit DosyaSeçici(const QString& yol = {})
+    explicit DosyaSeçici(const QString& yol)
     {
         QObject::connect(&Saat, &QTimer::timeout, &Saat, [this, yol] {
             auto* kutu = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -98,15 +97,13 @@ struct DosyaSeçici
                 return;
             if (Klasör.isEmpty()) {
                 Klasör = kutu->directory().absolutePath();
-                Süzgeçler = kutu->nameFilters();
-                kutu->selectNameFilter(Süzgeçler[yol.endsWith(u".rtf"_s)]);
+                kutu->selectNameFilter(kutu->nameFilters()[yol.endsWith(u".rtf"_s)]);
             }
-            if (yol.isEmpty())
-                return kutu->reject();
             const auto* görünen = kutu->findChild<QIdentityProxyModel*>();
             const auto* dosyalar = kutu->findChild<QFileSystemModel*>();
-            Boyut = görünen->mapFromSource(dosyalar->index(yol, 1)).data().toString();
-            Kök = görünen->mapFromSource(dosyalar->index(u"/"_s, 2)).data().toString();
+            Görülen = kutu->nameFilters().join(u'|');
+            for (const QModelIndex& yer : {dosyalar->index(yol, 1), dosyalar->index(u"/"_s, 2)})
+                Görülen += u'|' + görünen->mapFromSource(yer).data().toString();
             // Until the folder has been read the button is disabled: the next tick tries again.
             auto* ad = kutu->findChild<QLineEdit*>(u"fileNameEdit"_s);
             ad->clear();
@@ -116,8 +113,7 @@ struct DosyaSeçici
         Saat.start(20);
     }
     QTimer Saat;
-    QString Klasör, Boyut, Kök;
-    QStringList Süzgeçler;
+    QString Klasör, Görülen;
 };
 
 QObjectList odakHaberleri; // the controls of which screen readers are told that they have the focus
@@ -149,14 +145,11 @@ private slots:
     void cleanup() { t.reset(); }
     void add();
     void keysAndLimits();
-    void leavingTheFields();
     void missingFields();
     void waysOutOfTheDate_data();
     void waysOutOfTheDate();
     void pasteAndFiles();
     void change();
-    void changeCancelledOrNothingSelected();
-    void changeAmongResults();
     void sameTitlesAndLongValues();
     void deleteUntilOneIsLeft();
     void screenReadersFollowTheFocus();
@@ -185,14 +178,15 @@ void TestEntryWindows::add()
 {
     const auto state = [&](Pencere p, bool entry) {
         for (const QString& field : {YazarAlanı, BaşlıkAlanı, YerAlanı, TarihAlanı, MetinAlanı}) {
-            QCOMPARE(p.Bul(field).isEnabled(), entry);
+            QVERIFY(p.Bul(field).isEnabled() == entry);
             QCOMPARE(p.Bul(field).palette().color(QPalette::Base),
                      p.Kutu.palette().color(entry ? QPalette::Base : QPalette::Window));
         }
+        QCOMPARE(p.Metin().Text() + p.Kutusu(BaşlıkAlanı).text() + p.Yazar().Text(), QString());
         QCOMPARE(p.Düğmesi(EkleDüğmesi).text() + p.Düğmesi(KapatDüğmesi).text(),
                  entry ? u"Kayd&etİptal"_s : u"Makale &EkleKapat"_s);
-        QCOMPARE(p.Düğmesi(u"DosyaYükleButonu"_s).isEnabled(), entry);
-        QCOMPARE(p.Düğmesi(u"YapıştırButonu"_s).isEnabled(), entry);
+        for (const QString& button : {u"DosyaYükleButonu"_s, u"YapıştırButonu"_s})
+            QCOMPARE(p.Düğmesi(button).isEnabled(), entry);
     };
     const Makale first = {u"YENİ YAZAR"_s, u"İLK"_s, u"bir\niki\u00a0üç\n\tson"_s, u"Bursa"_s, u""_s};
     const Makale second = {u"ALİ KAYA"_s, u"İLK"_s, u"x"_s, u"Van"_s, u"2003 Bahar"_s};
@@ -200,31 +194,25 @@ void TestEntryWindows::add()
     inWindow(u"MakaleEkleMenüsü"_s, [&](Pencere p) {
         QCOMPARE(p.Kutu.windowTitle(), u"Listeye Makale Ekle..."_s);
         state(p, false);
-        QCOMPARE(p.Yazar().ListCount(), 2);
-        QCOMPARE(p.Yazar().Text(), QString());
+        QVERIFY(p.Yazar().ListCount() == 2 && p.Yazar().Text().isEmpty());
         p.Bas(EkleDüğmesi);
         state(p, true);
-        QCOMPARE(p.Odak(), YazarAlanı);
-        QCOMPARE(p.Metin().FontSize(), 8);
+        QVERIFY(p.Odak() == YazarAlanı && p.Metin().FontSize() == 8);
         p.Doldur(Örnek[0]);
         p.Kutu.close();
         QTest::keyClick(&p.Metin(), Qt::Key_Escape);
         for (const KapanışNedeni reason : {KapanışNedeni::OturumSonu, KapanışNedeni::GörevYöneticisi})
             QVERIFY(!t->Form->Kapat(reason));
-        QVERIFY(p.Kutu.isVisible() && Veritabanı);
-        QCOMPARE(p.Metin().Text(), Örnek[0].Metin);
+        QVERIFY(p.Kutu.isVisible() && Veritabanı && p.Metin().Text() == Örnek[0].Metin);
         p.Bas(KapatDüğmesi);
         state(p, false);
-        QCOMPARE(p.Metin().Text() + p.Yazar().Text() + p.Tarih().text(), QString());
         QApplication::clipboard()->clear();
         p.Bas(EkleDüğmesi);
         QVERIFY(!p.Düğmesi(u"YapıştırButonu"_s).isEnabled());
         p.Doldur(first);
         p.Bas(EkleDüğmesi);
         state(p, false);
-        QCOMPARE(p.Kutusu(BaşlıkAlanı).text() + p.Metin().Text(), QString());
-        QCOMPARE(t->Yazarlar().Item(1), first.Yazar);
-        QCOMPARE(t->Etiket(u"ToplamYazarSayısıEtiketi"_s), u"Toplam: 3"_s);
+        QCOMPARE(t->Yazarlar().Item(1) + t->Etiket(u"ToplamYazarSayısıEtiketi"_s), u"YENİ YAZARToplam: 3"_s);
         QCOMPARE(p.Yazar().ListCount(), 2); // as it was when the window opened
         p.Bas(EkleDüğmesi);
         p.Doldur(second);
@@ -235,66 +223,57 @@ void TestEntryWindows::add()
     QCOMPARE(stored(), Örnek + QList({first, second}));
 }
 
-// What "ıi'ş" becomes, what has the focus after Enter, how many letters there may be.
+// What " ıi'ş " becomes, and once it is left; what has the focus after Enter; how many letters there may be.
 void TestEntryWindows::keysAndLimits()
 {
-    const auto row = [](Pencere p, const QString& field, const QString& typed, const QString& next,
-                        int limit) {
+    const auto row = [](Pencere p, int label, const QString& field, const QString& typed, const QString& left,
+                        const QString& next, int limit) {
         p.Bul(field).setFocus();
         p.Kutusu(field).setText(QString(1100, u'a'));
         QCOMPARE(p.Kutusu(field).text().size(), limit);
         p.Kutusu(field).clear();
-        Yaz(p.Bul(field), u"ıi'ş"_s);
+        Yaz(p.Bul(field), u" ıi'ş "_s);
         QCOMPARE(p.Kutusu(field).text(), typed);
         KutuYanıtlayıcı evenSo(Yanıt::Evet);
         Yaz(p.Bul(field), u"\r"_s);
-        QCOMPARE(p.Odak(), next);
         p.Etkinleş();
+        QCOMPARE(p.Kutusu(field).text(), left);
+        QCOMPARE(p.Odak(), next);
+        QVERIFY(mavi(p.Kutu, label) == (next == field));
     };
     adding([&](Pencere p) {
-        row(p, YazarAlanı, u"Iİ´Ş"_s, BaşlıkAlanı, 1000);
-        row(p, BaşlıkAlanı, u"Iİ´Ş"_s, YerAlanı, 255);
-        row(p, YerAlanı, u"ıi´ş"_s, TarihAlanı, 50);
-        row(p, TarihAlanı, u"ıi´ş"_s, MetinAlanı, 20);
-    });
-    deleting([&](Pencere p) { row(p, BulAlanı, u"Iİ'Ş"_s, BulAlanı, 25); });
-}
-
-void TestEntryWindows::leavingTheFields()
-{
-    adding([&](Pencere p) {
-        QTRY_VERIFY_WITH_TIMEOUT(mavi(p.Kutu, 0), Bol);
-        int label = 0;
-        for (const QStringList& row : {QStringList{YazarAlanı, u" ali ığdır "_s, u"ALİ IĞDIR"_s},
-                                       {BaşlıkAlanı, u"türk  "_s, u"TÜRK"_s},
-                                       {YerAlanı, u" istanbul ili "_s, u"İstanbul İli"_s},
-                                       {TarihAlanı, u" 01 şubat 2003 "_s, u"01 Şubat 2003"_s}}) {
-            Yaz(p.Bul(row[0]), row[1] + u'\r');
-            QCOMPARE(p.Kutusu(row[0]).text(), row[2]);
-            QVERIFY(!mavi(p.Kutu, label) && mavi(p.Kutu, label + 1));
-            ++label;
-        }
+        row(p, 0, YazarAlanı, u" Iİ´Ş "_s, u"Iİ´Ş"_s, BaşlıkAlanı, 1000);
+        row(p, 1, BaşlıkAlanı, u" Iİ´Ş "_s, u"Iİ´Ş"_s, YerAlanı, 255);
+        row(p, 2, YerAlanı, u" ıi´ş "_s, u"Ii´ş"_s, TarihAlanı, 50);
+        row(p, 3, TarihAlanı, u" ıi´ş "_s, u"Ii´ş"_s, MetinAlanı, 20);
+        QVERIFY(mavi(p.Kutu, 4));
         Yaz(p.Metin(), u"  o'"_s);
         QTest::keyClick(&p.Metin(), Qt::Key_Return);
         Yaz(p.Metin(), u" e "_s);
         QTest::keyClick(&p.Metin(), Qt::Key_Backtab);
         QCOMPARE(p.Metin().Text(), u"o'\n e"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(p.Tarih().selectedText(), u"01 Şubat 2003"_s, Bol);
+        QTRY_COMPARE_WITH_TIMEOUT(p.Tarih().selectedText(), u"Ii´ş"_s, BeklemeSınırı);
+        for (const QString& date : {u""_s, u" 01 şubat 2003 "_s}) { // no question
+            p.Tarih().setFocus();
+            p.Tarih().setText(date);
+            Yaz(p.Tarih(), u"\r"_s);
+            QCOMPARE(p.Tarih().text(), date.isEmpty() ? date : u"01 Şubat 2003"_s);
+        }
         p.Yazar().setFocus();
         p.Kutusu(YazarAlanı).setText(u"o'neil\tx\u2029\u00ad😀"_s + QChar(0xd83d)); // as pasted
         QTest::keyClick(&p.Yazar(), Qt::Key_Tab);
         QCOMPARE(p.Yazar().Text(), u"o'neil x \u00ad😀"_s);
     });
+    deleting([&](Pencere p) { row(p, 1, BulAlanı, u" Iİ'Ş "_s, u" Iİ'Ş "_s, BulAlanı, 25); });
 }
 
 void TestEntryWindows::missingFields()
 {
     const auto [author, title, text, place, date] = Örnek[0];
-    const QString oneWord = u"Yazar adı, tek sözcük olamaz!"_s;
     const std::tuple<Makale, QString, QString> rows[] = {
         {{}, u"Yazar adı, boş bırakılamaz."_s, YazarAlanı},
-        {{u"ALİ"_s, title, text}, oneWord, YazarAlanı},
-        {{u"ALİ\u00a0SU"_s, title, text}, oneWord, YazarAlanı},
+        {{u"ALİ"_s, title, text}, u"Yazar adı, tek sözcük olamaz!"_s, YazarAlanı},
+        {{u"ALİ\u00a0SU"_s, title, text}, u"Yazar adı, tek sözcük olamaz!"_s, YazarAlanı},
         {{author, {}, text}, u"Makale başlığı, boş bırakılamaz."_s, BaşlıkAlanı},
         {{author, title, text, {}}, u"Yayım yeri, boş bırakılamaz."_s, YerAlanı},
         {{author, title, {}}, u"Makale metni, boş bırakılamaz."_s, MetinAlanı}};
@@ -320,15 +299,14 @@ void TestEntryWindows::waysOutOfTheDate_data()
     using Way = std::function<void(Pencere)>;
     QTest::addColumn<Way>("go");
     QTest::addColumn<QString>("focus"); // after a Yes
-    QTest::addColumn<Yanıt>("no");
-    const auto row = [](const char* name, const QString& focus, const Way& go, Yanıt no = Yanıt::Hayır) {
-        QTest::newRow(name) << go << focus << no;
+    const auto row = [](const char* name, const QString& focus, const Way& go) {
+        QTest::newRow(name) << go << focus;
     };
     const auto key = [](Qt::Key pressed, Qt::KeyboardModifiers with = {}) -> Way {
         return [=](Pencere p) { QTest::keyClick(&p.Tarih(), pressed, with); };
     };
     row("Tab", MetinAlanı, key(Qt::Key_Tab));
-    row("back", YerAlanı, key(Qt::Key_Backtab), Yanıt::Kapat);
+    row("back", YerAlanı, key(Qt::Key_Backtab));
     row("mouse", KaydetDüğmesi, [](Pencere p) { p.Bas(KaydetDüğmesi); });
     row("mouse on the text", MetinAlanı, [](Pencere p) { p.Bas(*p.Metin().viewport()); });
     row("mnemonic", KaydetDüğmesi, key(Qt::Key_E, Qt::AltModifier));
@@ -342,13 +320,12 @@ void TestEntryWindows::waysOutOfTheDate_data()
     });
     row("screen reader goes", BaşlıkAlanı, [](Pencere p) { p.Kutusu(BaşlıkAlanı).setFocus(); });
     row("goes from behind", BaşlıkAlanı, [](Pencere p) {
-        {
-            QWidget front;
-            front.show();
-            front.activateWindow();
-            QTRY_VERIFY_WITH_TIMEOUT(front.isActiveWindow(), Bol);
-            p.Kutusu(BaşlıkAlanı).setFocus();
-        }
+        auto front = std::make_unique<QWidget>();
+        front->show();
+        front->activateWindow();
+        QTRY_VERIFY_WITH_TIMEOUT(front->isActiveWindow(), BeklemeSınırı);
+        p.Kutusu(BaşlıkAlanı).setFocus();
+        front.reset();
         p.Kutu.activateWindow();
     });
 }
@@ -357,30 +334,21 @@ void TestEntryWindows::waysOutOfTheDate()
 {
     QFETCH(std::function<void(Pencere)>, go);
     QFETCH(QString, focus);
-    QFETCH(Yanıt, no);
     changing([&](Pencere p) {
-        p.Etkinleş();
         p.Tarih().setFocus();
         p.Tarih().setText(u" 2003 bahar "_s);
-        {
-            KutuYanıtlayıcı box(no);
+        for (const bool stays : {true, false}) {
+            KutuYanıtlayıcı box(stays ? Yanıt::Hayır : Yanıt::Evet);
             go(p);
-            QTRY_COMPARE_WITH_TIMEOUT(box.Metin, TarihSorusu, Bol);
-            p.Etkinleş();
+            QTRY_COMPARE_WITH_TIMEOUT(box.Metin, TarihSorusu, BeklemeSınırı);
+            QTRY_COMPARE_WITH_TIMEOUT(p.Odak(), stays ? TarihAlanı : focus, BeklemeSınırı);
+            QTRY_COMPARE_WITH_TIMEOUT(p.Kutu.isVisible(), stays || focus != KaydetDüğmesi, BeklemeSınırı);
+            if (p.Kutu.isVisible())
+                p.Etkinleş();
+            QTRY_COMPARE_WITH_TIMEOUT(mavi(p.Kutu, 3), stays, BeklemeSınırı);
+            QCOMPARE(p.Tarih().text(), stays ? u"2003 bahar"_s : u"2003 Bahar"_s);
             QCOMPARE(box.Sayı, 1);
-            QVERIFY(mavi(p.Kutu, 3) && p.Tarih().hasFocus());
-            QCOMPARE(p.Tarih().text(), u"2003 bahar"_s);
         }
-        KutuYanıtlayıcı box(Yanıt::Evet);
-        go(p);
-        QTRY_COMPARE_WITH_TIMEOUT(box.Sayı, 1, Bol);
-        QTRY_COMPARE_WITH_TIMEOUT(p.Odak(), focus, Bol);
-        QTRY_COMPARE_WITH_TIMEOUT(p.Kutu.isVisible(), focus != KaydetDüğmesi, Bol);
-        if (focus != KaydetDüğmesi)
-            p.Etkinleş();
-        QTRY_VERIFY_WITH_TIMEOUT(!mavi(p.Kutu, 3), Bol);
-        QCOMPARE(p.Tarih().text(), u"2003 Bahar"_s);
-        QCOMPARE(box.Sayı, 1);
     });
     QCOMPARE(stored()[1].Tarih, focus == KaydetDüğmesi ? u"2003 Bahar"_s : QString());
 }
@@ -402,12 +370,6 @@ void TestEntryWindows::pasteAndFiles()
         QApplication::clipboard()->setImage(QImage(8, 8, QImage::Format_RGB32));
         p.Bas(u"YapıştırButonu"_s);
         {
-            DosyaSeçici cancelled;
-            p.Bas(load);
-            QCOMPARE(cancelled.Süzgeçler.join(u'|'),
-                     u"Metin Dosyaları (*.txt)|Zengin Metin Biçimi (*.rtf)"_s);
-        }
-        {
             DosyaSeçici chosen(binary);
             KutuYanıtlayıcı box(Yanıt::Tamam);
             p.Bas(load);
@@ -425,7 +387,7 @@ void TestEntryWindows::pasteAndFiles()
         QCOMPARE(dialogs, 0);
         QCOMPARE(p.Metin().Text(), u"birinci\nikinci ışık"_s);
         QCOMPARE(AyarOku(Ayarlar::SonAçılan), plain);
-        QCOMPARE(first.Boyut + first.Kök, u"23 baytSürücü"_s);
+        QCOMPARE(first.Görülen, u"Metin Dosyaları (*.txt)|Zengin Metin Biçimi (*.rtf)|23 bayt|Sürücü"_s);
     });
     changing([&](Pencere p) {
         DosyaSeçici second(rich);
@@ -448,7 +410,14 @@ void TestEntryWindows::change()
 {
     t->Yazarlar().ListIndex(0);
     t->Makaleler().Text(u"arı"_s);
-    QVERIFY(mavi(*t->Form, 0));
+    changing([&](Pencere p) { // cancelled
+        p.Kutusu(BaşlıkAlanı).setText(u"BAŞKA"_s);
+        QTest::keyClick(&p.Kutusu(BaşlıkAlanı), Qt::Key_Escape);
+        QVERIFY(p.Kutu.isVisible());
+        p.Bas(u"VazgeçDüğmesi"_s);
+    });
+    QCOMPARE(t->Makaleler().Text(), u"ARI"_s);
+    QVERIFY(mavi(*t->Form, 0) && stored() == Örnek);
     changing([&](Pencere p) {
         QVERIFY(!mavi(*t->Form, 0)); // while another window stands before it
         QCOMPARE(p.Kutu.windowTitle() + p.Düğmesi(u"VazgeçDüğmesi"_s).text(),
@@ -468,18 +437,14 @@ void TestEntryWindows::change()
     QVERIFY(mavi(*t->Form, 0));
     QCOMPARE(stored()[1], (Makale{u"ZEKİ SU"_s, u"BAL"_s, u"Arı bal yapar."_s, u"İzmir"_s, u""_s}));
     QCOMPARE(t->Yazarlar().Text() + t->Makaleler().Text() + t->Metin().Text(), u"ZEKİ SUBALArı bal yapar."_s);
-}
-
-void TestEntryWindows::changeCancelledOrNothingSelected()
-{
+    t->Bul<MetinKutusu>(u"BulKutusu"_s).Text(u"ışık"_s); // among the results of a search
+    t->Bul<QPushButton>(u"TümündeBulButonu"_s).click();
     changing([&](Pencere p) {
-        p.Kutusu(BaşlıkAlanı).setText(u"BAŞKA"_s);
-        QTest::keyClick(&p.Kutusu(BaşlıkAlanı), Qt::Key_Escape);
-        QVERIFY(p.Kutu.isVisible());
-        p.Bas(u"VazgeçDüğmesi"_s);
+        p.Kutusu(BaşlıkAlanı).setText(u"IŞIN"_s);
+        p.Bas(KaydetDüğmesi);
     });
-    QCOMPARE(stored(), Örnek);
-    QCOMPARE(t->Makaleler().Text(), u"ARI"_s);
+    QVERIFY(t->Makaleler().ListCount() == 1 && t->Makaleler().Text() == u"IŞIN"_s);
+    QCOMPARE(t->Yazarlar().Text(), u"ZEKİ SU"_s);
     t->Makaleler().ListIndex(-1);
     KutuYanıtlayıcı box(Yanıt::Tamam);
     t->Form->findChild<QAction*>(u"MakeleDeğiştirMenüsü"_s)->trigger();
@@ -487,24 +452,11 @@ void TestEntryWindows::changeCancelledOrNothingSelected()
     QCOMPARE(t->Form->focusWidget()->objectName(), u"MakaleListesi"_s);
 }
 
-void TestEntryWindows::changeAmongResults()
-{
-    t->Bul<MetinKutusu>(u"BulKutusu"_s).Text(u"ışık"_s);
-    t->Bul<QPushButton>(u"TümündeBulButonu"_s).click();
-    QCOMPARE(t->Makaleler().Text(), u"IŞIK"_s);
-    changing([&](Pencere p) {
-        p.Kutusu(BaşlıkAlanı).setText(u"IŞIN"_s);
-        p.Bas(KaydetDüğmesi);
-    });
-    QCOMPARE(t->Makaleler().ListCount(), 1);
-    QCOMPARE(t->Makaleler().Text() + t->Yazarlar().Text(), u"IŞINZEKİ SU"_s);
-}
-
 void TestEntryWindows::sameTitlesAndLongValues()
 {
     const QString title = QString(400, u'Ğ'), place = QString(90, u'y'), date = QString(60, u't');
-    Ekle(*Veritabanı,
-         {{u"ALİ KAYA"_s, title, u"birinci"_s, place, date}, {u"ALİ KAYA"_s, title, u"ikinci"_s}});
+    const Makale second = {u"ALİ KAYA"_s, title, u"ikinci"_s};
+    Ekle(*Veritabanı, {{u"ALİ KAYA"_s, title, u"birinci"_s, place, date}, second});
     t->Yazarlar().ListIndex(1);
     t->Yazarlar().ListIndex(0);
     t->Makaleler().ListIndex(2); // the second one of that title
@@ -513,14 +465,12 @@ void TestEntryWindows::sameTitlesAndLongValues()
         p.Metin().Text(u"değişti"_s);
         p.Bas(KaydetDüğmesi);
     });
-    QCOMPARE(stored()[3], (Makale{u"ALİ KAYA"_s, title, u"değişti"_s, place, date}));
-    QCOMPARE(stored()[4].Metin, u"ikinci"_s);
+    QCOMPARE(stored().mid(3), QList<Makale>({{u"ALİ KAYA"_s, title, u"değişti"_s, place, date}, second}));
     KutuYanıtlayıcı yes(Yanıt::Evet);
     deleting([&](Pencere p) {
         p.Liste().Text(title);
         p.Bas(u"SilButonu"_s);
-        QCOMPARE(p.Liste().ListCount(), 4);
-        QVERIFY(p.Liste().ÖnekleBul(title) >= 0);
+        QVERIFY(p.Liste().ListCount() == 4 && p.Liste().ÖnekleBul(title) >= 0);
     });
     QCOMPARE(stored()[3].Metin, u"ikinci"_s);
 }
@@ -530,37 +480,35 @@ void TestEntryWindows::deleteUntilOneIsLeft()
     t->Makaleler().Text(u"ARI"_s);
     deleting([&](Pencere p) {
         const auto shown = [&] {
-            return QStringList({p.Liste().Text(), p.Kutusu(u"YazarAdıKutusu"_s).text(),
-                                p.Kutusu(YerAlanı).text(), p.Tarih().text(), p.Metin().Text()})
+            return QStringList({p.Bul<QLabel>(u"ToplamMakaleSayısı"_s).text(), p.Liste().Text(),
+                                p.Kutusu(u"YazarAdıKutusu"_s).text(), p.Kutusu(YerAlanı).text(),
+                                p.Tarih().text(), p.Metin().Text()})
                 .join(u'|');
         };
-        const auto total = [&] { return p.Bul<QLabel>(u"ToplamMakaleSayısı"_s).text(); };
         QCOMPARE(p.Kutu.windowTitle(), u"Listeden Makale Sil..."_s);
-        QCOMPARE(shown() + total(), u"ARI|ALİ KAYA|İzmir||Arı bal yapar.Toplam: 3"_s);
+        QCOMPARE(shown(), u"Toplam: 3|ARI|ALİ KAYA|İzmir||Arı bal yapar."_s);
         {
             KutuYanıtlayıcı enter(Yanıt::Kapat, [](QMessageBox& box) {
-                QCOMPARE(box.text(), u"Silme işlemi geri alınamaz! Seçtiğiniz makaleyi silmek istediğinizden "
-                                     u"emin misiniz?"_s);
                 QVERIFY(box.defaultButton() == box.button(QMessageBox::No));
             });
             p.Bas(u"SilButonu"_s);
+            QCOMPARE(enter.Metin, SilmeSorusu);
             QCOMPARE(stored(), Örnek);
         }
         {
             KutuYanıtlayıcı yes(Yanıt::Evet);
             QTest::keyClick(&p.Liste(), Qt::Key_Delete);
-            QCOMPARE(shown() + total(), u"||||Toplam: 2"_s);
-            QVERIFY(t->Makaleler().ListCount() == 0 && t->Metin().Text().isEmpty());
+            QCOMPARE(shown(), u"Toplam: 2|||||"_s);
             QCOMPARE(t->Yazarlar().ListCount(), 2);
+            QVERIFY(t->Makaleler().ListCount() == 0 && t->Metin().Text().isEmpty());
             p.Liste().Text(u"ZEYTİN"_s);
             p.Bas(u"SilButonu"_s);
-            QCOMPARE(yes.Sayı, 2);
-            QCOMPARE(t->Yazarlar().ListCount(), 1);
+            QVERIFY(yes.Sayı == 2 && t->Yazarlar().ListCount() == 1);
         }
         Yaz(p.Bul(BulAlanı), u"ış"_s);
-        QCOMPARE(shown().left(13), u"IŞIK|ZEKİ SU|"_s);
+        QVERIFY(shown().contains(u"|IŞIK|ZEKİ SU|"_s));
         Yaz(p.Bul(BulAlanı), u"'"_s);
-        QCOMPARE(shown(), u"||||"_s);
+        QCOMPARE(shown(), u"Toplam: 1|||||"_s);
         p.Kutusu(BulAlanı).clear();
         QCOMPARE(p.Liste().ListIndex(), -1);
         KutuYanıtlayıcı last(Yanıt::Tamam);
@@ -578,7 +526,7 @@ void TestEntryWindows::deleteUntilOneIsLeft()
 void TestEntryWindows::screenReadersFollowTheFocus()
 {
     t->Form->activateWindow();
-    QTRY_VERIFY_WITH_TIMEOUT(t->Form->isActiveWindow(), Bol);
+    QTRY_VERIFY_WITH_TIMEOUT(t->Form->isActiveWindow(), BeklemeSınırı);
     t->Yazarlar().setFocus();
     odakHaberleri.clear();
     QTest::keyClick(&t->Yazarlar(), Qt::Key_Down);

@@ -93,7 +93,7 @@ void TestPrinting::handOver_data()
     QTest::addColumn<QString>("end"); // what the stand-in does
     QTest::addColumn<int>("number");  // of the error that is reported
     QTest::newRow("ends well") << u"read_it \"$@\""_s << 0;
-    QTest::newRow("goes on") << u"read_it \"$@\"; exec sleep 5"_s << 0;
+    QTest::newRow("goes on") << u"read_it \"$@\"; sleep 20; echo x >ended"_s << 0;
     QTest::newRow("reads and fails") << u"read_it \"$@\"; exit 3"_s << 440;
     QTest::newRow("fails later") << u"sleep 0.5; exit 1"_s << 440;
     QTest::newRow("crashes") << u"kill -9 $$"_s << 440;
@@ -107,17 +107,18 @@ void TestPrinting::handOver()
     standIn(end, number == 429 ? "/no/such/shell" : "/bin/sh");
     KutuYanıtlayıcı box(KutuYanıtlayıcı::Yanıt::Tamam);
     WordeAktar([](WordBasic& word) { word.Insert(u"ığ\nson"_s); });
+    QCOMPARE(noted(u"ended"_s), QByteArray()); // it was not waited for
     QCOMPARE(box.Sayı, number == 0 ? 0 : 1);
     if (number != 0) {
-        const QString start =
-            u"Aşağıdaki hata nedeniyle Word başlatılamadı!\n\nHata Kodu: %1\n\nHata Mesajı: "_s;
-        QVERIFY2(box.Metin.startsWith(start.arg(number)), qPrintable(box.Metin));
+        const auto start =
+            u"Aşağıdaki hata nedeniyle Word başlatılamadı!\n\nHata Kodu: %1\n\nHata "_s.arg(number);
+        QCOMPARE(box.Metin.left(start.size()), start);
         QCOMPARE(temporary(), QStringList());
         return;
     }
     QCOMPARE(noted(u"args"_s), QByteArray("--writer\n-n\n600\n700\n"));
     QCOMPARE(noted(u"copy"_s), RtfBelgesi(u"ığ\nson"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(temporary(), QStringList(), 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(temporary(), QStringList(), BeklemeSınırı);
 }
 
 void TestPrinting::handOverOfTheClipboard()
@@ -132,11 +133,6 @@ void TestPrinting::handOverOfTheClipboard()
         WordeAktar([](WordBasic& word) { word.EditPaste(); });
         QCOMPARE(noted(u"copy"_s), formatted ? rtf : RtfBelgesi(u"düz"_s));
     }
-    QFile::remove(folder_->filePath(u"soffice"_s));
-    qputenv("PATH", QFile::encodeName(folder_->path()));
-    KutuYanıtlayıcı box(KutuYanıtlayıcı::Yanıt::Tamam);
-    WordeAktar([](WordBasic&) { QFAIL("there is none to fill"); });
-    QCOMPARE(box.Metin, u"Bilgisayarınızda \"Microsoft Word\" kurulu olmadığı için işlem yapılamıyor!"_s);
 }
 
 void TestPrinting::leftovers()
@@ -180,7 +176,7 @@ void TestPrinting::choice()
     const auto child = [&form](const QString& name) { return form.findChild<QWidget*>(name); };
     auto& list = *static_cast<AçılırListe*>(child(u"YazıcıAdlarıKutusu"_s));
     form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QVERIFY(QTest::qWaitForWindowActive(&form, BeklemeSınırı));
     QCOMPARE(list.Text(), printers == 3 ? u"b"_s : QString());
     auto& port = *static_cast<MetinKutusu*>(child(u"BağlantıNoktasıKutusu"_s));
     QCOMPARE(port.Text(), QString()); // b has none, and another one's must not show
