@@ -7,8 +7,6 @@
 #include <QList>
 #include <QTextCharFormat>
 
-#include <functional>
-
 class QTextDocument;
 
 // While such a step is open the document's layout is behind its text: a widget that moves its caret or

@@ -11,7 +11,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -31,16 +30,10 @@ QStringList gerçekKlasörler(const QString& klasör)
 
 } // namespace
 
-KlasörKilidi::KlasörKilidi(const QString& klasör)
+KlasörKilidi::KlasörKilidi(const QString& klasör) : KlasörKilidi() // from here on the destructor lets go
 {
-    try {
-        for (const QString& gerçek : gerçekKlasörler(klasör))
-            kilitle(gerçek);
-    } catch (...) {
-        for (const int tanıtıcı : tanıtıcılar_)
-            close(tanıtıcı);
-        throw;
-    }
+    for (const QString& gerçek : gerçekKlasörler(klasör))
+        kilitle(gerçek);
 }
 
 void KlasörKilidi::kilitle(const QString& klasör)
@@ -59,10 +52,7 @@ KlasörKilidi::~KlasörKilidi()
         close(tanıtıcı);
 }
 
-KlasörKilidi::KlasörKilidi(KlasörKilidi&& diğer) noexcept
-    : tanıtıcılar_(std::exchange(diğer.tanıtıcılar_, {}))
-{
-}
+KlasörKilidi::KlasörKilidi(KlasörKilidi&& diğer) noexcept = default;
 
 KlasörKilidi& KlasörKilidi::operator=(KlasörKilidi&& diğer) noexcept
 {

@@ -20,6 +20,7 @@ public:
     KlasörKilidi& operator=(KlasörKilidi&& diğer) noexcept;
 
 private:
+    KlasörKilidi() = default;
     void kilitle(const QString& klasör);
 
     std::vector<int> tanıtıcılar_;
