@@ -1,10 +1,10 @@
 #include "store/KitaplıkYapısı.h"
 
 #include "store/Bağlantı.h"
-#include "store/Utf8Denetimi.h"
 #include "store/VeritabanıHatası.h"
 
 #include <QFileInfo>
+#include <QUtf8StringView>
 
 #include <algorithm>
 #include <optional>
@@ -153,7 +153,7 @@ try {
 std::string_view SağlamDeğer(const Deyim& satır, int sütun)
 {
     const std::string_view utf8 = satır.Yazı(sütun);
-    if (!Utf8Geçerli(utf8))
+    if (!QUtf8StringView(utf8.data(), qsizetype(utf8.size())).isValidUtf8())
         throw VeritabanıHatası(HataNo::DosyaBozuk);
     return utf8;
 }

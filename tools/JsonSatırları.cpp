@@ -2,17 +2,17 @@
 
 #include "store/KitaplıkDenetimi.h"
 #include "store/SistemHatası.h"
-#include "store/Utf8Denetimi.h"
 #include "store/VeritabanıHatası.h"
 #include "tools/AraçHatası.h"
 #include "tools/Durdurma.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QStringDecoder>
+#include <QJsonObject>
+#include <QSet>
+#include <QUtf8StringView>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
@@ -32,159 +32,81 @@ QByteArray jsonDizesi(const QString& metin)
     return dizi.sliced(1, dizi.size() - 2);
 }
 
-/// Takes one line apart. Qt's parser won't do: it takes a doubled member's last value, bare control
-/// characters and "\q", drops a mark from a string's beginning, and can't be interrupted.
-class SatırÇözücü
-{
-public:
-    SatırÇözücü(QByteArrayView satır, const DurdurmaBekçisi& bekçi) : satır_(satır), bekçi_(bekçi) {}
-
-    /// Throws AraçHatası, which says what is wrong but not where the line stands.
-    Makale Çöz();
-
-private:
-    void alanıOku(std::array<std::optional<QString>, MakaleSütunları.size()>& alanlar);
-    QString dize();
-    void düzParça(QString& metin);
-    char16_t kaçış();
-    char16_t onaltılık();
-
-    void boşluğuGeç();
-    bool bitti() const { return yer_ == satır_.size(); }
-    char sıradaki() const { return bitti() ? '\0' : satır_[yer_]; }
-    void geç(char harf);
-    [[noreturn]] void hata() const;
-
-    QByteArrayView satır_;
-    qsizetype yer_ = 0;
-    const DurdurmaBekçisi& bekçi_;
-};
-
-void SatırÇözücü::hata() const
+[[noreturn]] void jsonHatası(QByteArrayView satır, qsizetype bayt)
 {
     throw AraçHatası(QStringLiteral("Geçerli bir JSON değil; sorun %1. karakterin yakınında.")
-                         .arg(QString::fromUtf8(satır_.first(yer_)).size() + 1));
+                         .arg(QString::fromUtf8(satır.first(bayt)).size() + 1));
 }
 
-void SatırÇözücü::boşluğuGeç()
+/// The names of the line's own members in their order, as they stand. Refuses what Qt's parser takes: bare
+/// control characters, and "\q" as a q, so that a path would lose its backslashes.
+QByteArrayList üyeAdları(const QByteArray& satır)
 {
-    while (!bitti() && QByteArrayView(" \t\r\n").contains(sıradaki()))
-        ++yer_;
-}
-
-/// Blanks, the character, blanks.
-void SatırÇözücü::geç(char harf)
-{
-    boşluğuGeç();
-    if (bitti() || sıradaki() != harf)
-        hata();
-    ++yer_;
-    boşluğuGeç();
-}
-
-char16_t SatırÇözücü::onaltılık()
-{
-    constexpr qsizetype Haneler = 4;
-    const QByteArrayView haneler = satır_.sliced(yer_, std::min(Haneler, satır_.size() - yer_));
-    const bool uyar = haneler.size() == Haneler && std::all_of(haneler.begin(), haneler.end(), [](char harf) {
-                          return std::isxdigit(static_cast<unsigned char>(harf));
-                      });
-    if (!uyar)
-        hata();
-    yer_ += Haneler;
-    return static_cast<char16_t>(haneler.toByteArray().toUInt(nullptr, 16));
-}
-
-/// What stands behind a backslash.
-char16_t SatırÇözücü::kaçış()
-{
-    constexpr QByteArrayView Yazılan = "\"\\/bfnrt", Anlamı = "\"\\/\b\f\n\r\t";
-    const char harf = sıradaki();
-    const qsizetype sıra = Yazılan.indexOf(harf);
-    if (bitti() || (sıra < 0 && harf != 'u'))
-        hata();
-    ++yer_;
-    return sıra < 0 ? onaltılık() : static_cast<char16_t>(Anlamı[sıra]);
-}
-
-/// Up to the next quote, backslash or control character, piece by piece.
-void SatırÇözücü::düzParça(QString& metin)
-{
-    QStringDecoder çözücü(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    bool sürer = true;
-    while (sürer) {
-        bekçi_.Bak();
-        const auto baş = satır_.begin() + yer_, enSon = baş + std::min(ParçaBoyu, satır_.size() - yer_);
-        const auto son = std::find_if(baş, enSon, [](char harf) {
-            return harf == '"' || harf == '\\' || static_cast<unsigned char>(harf) < ' ';
-        });
-        metin += çözücü(QByteArrayView(baş, son));
-        yer_ += son - baş;
-        sürer = son == enSon && !bitti();
+    QByteArrayList adlar;
+    int derinlik = 0;
+    bool adGelir = false;
+    qsizetype dizeBaşı = -1; // of the string in which we are
+    for (qsizetype i = 0; i < satır.size(); ++i) {
+        const char harf = satır[i];
+        if (dizeBaşı < 0) {
+            derinlik += (harf == '{' || harf == '[') - (harf == '}' || harf == ']');
+            adGelir = derinlik == 1 && (harf == '{' || harf == ',' || (adGelir && harf != ':'));
+            dizeBaşı = harf == '"' ? i : -1;
+        } else if (harf == '"') {
+            if (adGelir)
+                adlar.append(satır.sliced(dizeBaşı, i + 1 - dizeBaşı));
+            dizeBaşı = -1;
+        } else if (harf == '\\') {
+            if (++i < satır.size() && !QByteArrayView("\"\\/bfnrtu").contains(satır[i]))
+                jsonHatası(satır, i);
+        } else if (static_cast<uchar>(harf) < ' ') {
+            jsonHatası(satır, i);
+        }
     }
+    return adlar;
 }
 
-QString SatırÇözücü::dize()
+QJsonObject nesneÇöz(QByteArray satır)
 {
-    if (sıradaki() != '"')
-        hata();
-    ++yer_;
-    QString metin;
-    while (true) {
-        düzParça(metin);
-        const char harf = sıradaki();
-        if (harf != '"' && harf != '\\')
-            hata();
-        ++yer_;
-        if (harf == '"')
-            return metin;
-        metin += QChar(kaçış());
-    }
-}
-
-void SatırÇözücü::alanıOku(std::array<std::optional<QString>, MakaleSütunları.size()>& alanlar)
-{
-    const QString ad = dize();
-    const auto tanım = std::find_if(MakaleSütunları.begin(), MakaleSütunları.end(),
-                                    [&ad](const SütunTanımı& sütun) { return sütun.ad == ad; });
-    if (tanım == MakaleSütunları.end()) {
-        throw AraçHatası(QStringLiteral("%1 diye bir alan yok.")
-                             .arg(QString::fromUtf8(jsonDizesi(ad.left(EnUzunAlıntı)))));
-    }
-    std::optional<QString>& alan = alanlar[std::size_t(tanım - MakaleSütunları.begin())];
-    if (alan)
-        throw AraçHatası(QStringLiteral("%1 alanı birden çok kez yazılmış.").arg(ad));
-    geç(':');
-    if (!bitti() && QByteArrayView("{[-0123456789tfn").contains(sıradaki()))
-        throw AraçHatası(QStringLiteral("%1 alanının değeri bir metin değil.").arg(ad));
-    alan = dize();
-    boşluğuGeç();
-}
-
-Makale SatırÇözücü::Çöz()
-{
-    if (!Utf8Geçerli({satır_.data(), std::size_t(satır_.size())}))
+    if (!QUtf8StringView(satır).isValidUtf8())
         throw AraçHatası(QStringLiteral("Satır geçerli bir UTF-8 metni değil."));
-    boşluğuGeç();
-    if (!bitti() && QByteArrayView("[\"-0123456789tfn").contains(sıradaki()))
+    const QByteArrayList adlar = üyeAdları(satır);
+    satır.replace(BaytSırasıİmi, "\\ufeff"); // Qt drops the mark from a string's beginning
+    QJsonParseError hata;
+    const QJsonDocument belge = QJsonDocument::fromJson(satır, &hata);
+    if (hata.error != QJsonParseError::NoError)
+        jsonHatası(satır, hata.offset);
+    if (!belge.isObject())
         throw AraçHatası(QStringLiteral("Satır bir JSON nesnesi değil."));
-    geç('{');
-    std::array<std::optional<QString>, MakaleSütunları.size()> alanlar;
-    if (sıradaki() != '}')
-        alanıOku(alanlar);
-    while (sıradaki() == ',') {
-        geç(',');
-        alanıOku(alanlar);
+    QSet<QString> görülen; // Qt keeps a doubled member's last value
+    for (const QByteArray& yazılan : adlar) {
+        const QString ad = QJsonDocument::fromJson('[' + yazılan + ']').array().at(0).toString();
+        if (görülen.contains(ad))
+            throw AraçHatası(QStringLiteral("%1 alanı birden çok kez yazılmış.").arg(ad));
+        görülen.insert(ad);
     }
-    geç('}');
-    if (!bitti())
-        hata();
+    return belge.object();
+}
+
+Makale makaleÇöz(const QByteArray& satır)
+{
+    const QJsonObject nesne = nesneÇöz(satır);
+    for (const QString& ad : nesne.keys()) {
+        if (std::none_of(MakaleSütunları.begin(), MakaleSütunları.end(),
+                         [&ad](const SütunTanımı& tanım) { return tanım.ad == ad; })) {
+            throw AraçHatası(QStringLiteral("%1 diye bir alan yok.")
+                                 .arg(QString::fromUtf8(jsonDizesi(ad.left(EnUzunAlıntı)))));
+        }
+    }
     Makale makale;
     for (std::size_t i = 0; i < makale.size(); ++i) {
-        bekçi_.Bak();
-        if (!alanlar[i])
-            throw AraçHatası(QStringLiteral("%1 alanı eksik.").arg(MakaleSütunları[i].ad));
-        makale[i] = alanlar[i]->normalized(QString::NormalizationForm_C);
+        const QStringView ad = MakaleSütunları[i].ad;
+        const QJsonValue değer = nesne.value(ad);
+        if (değer.isUndefined())
+            throw AraçHatası(QStringLiteral("%1 alanı eksik.").arg(ad));
+        if (!değer.isString())
+            throw AraçHatası(QStringLiteral("%1 alanının değeri bir metin değil.").arg(ad));
+        makale[i] = değer.toString().normalized(QString::NormalizationForm_C);
         if (const QString sorun = DeğerSorunu(makale[i], static_cast<MakaleSütunu>(i)); !sorun.isEmpty())
             throw AraçHatası(sorun);
     }
@@ -265,7 +187,7 @@ std::optional<Makale> JsonSatırları::Sonraki()
         if (satır_.trimmed().isEmpty())
             continue;
         try {
-            return SatırÇözücü(satır_, bekçi_).Çöz();
+            return makaleÇöz(satır_);
         } catch (const AraçHatası& hata) {
             bekçi_.Bak(); // then it is the interruption that ended it
             throw AraçHatası(

@@ -21,7 +21,7 @@ class JsonSatırları
 {
 public:
     /// @param yol a path, or "-" for the standard input. Throws VeritabanıHatası 3024, 3043 or 3051.
-    /// @param bekçi asked while lines are waited for, read and taken apart; must outlive this
+    /// @param bekçi asked while lines are waited for and read; must outlive this
     JsonSatırları(const QString& yol, const DurdurmaBekçisi& bekçi);
 
     /// The next article, nothing at the end. Strict: a line holds exactly the five members, each once, and
