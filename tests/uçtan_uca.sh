@@ -186,7 +186,14 @@ check "yeniden açılır" start
 xdotool windowminimize "$(xdotool getactivewindow)"
 minimised() { ! active_is "$caption"; }
 eventually minimised
-check "ikinci örnek 0 ile biter" "$folder/belgenar"
+second_gone() { ! kill -0 "$second" 2>/dev/null; }
+second_instance() {
+    "$folder/belgenar" &
+    second=$!
+    eventually second_gone || { kill -9 "$second"; return 1; }
+    wait "$second"
+}
+check "ikinci örnek 0 ile biter" second_instance
 check "ilk örnek öne gelir" eventually active_is "$caption"
 key Escape
 eventually active_is Belgenar
