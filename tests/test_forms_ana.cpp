@@ -190,6 +190,8 @@ void TestMainWindow::layout()
     AyarMetni(Ayarlar::TamEkran, u"1"_s); // anything but 2 is a normal window
     t->Göster();
     QVERIFY(!t->Form->isMaximized());
+    const double size = t->Bul<QLabel>(u"Etiket0"_s).font().pointSizeF();
+    QVERIFY(size == points || (size > OlağanYazıBoyutu && size < points)); // less where it would not fit
     t->Form->resize(asked - (ÇerçeveliYer(*t->Form).size() - t->Form->size()));
     QTRY_COMPARE_WITH_TIMEOUT(ÇerçeveliYer(*t->Form).size(), outer, BeklemeSınırı);
     const int w = FormTwipi(outer.width()), h = FormTwipi(outer.height()), list = w / 3;
