@@ -47,6 +47,7 @@ public:
     ÇerçeveBekleyen(QWidget& pencere, std::function<QPoint(const QSize&)> yer)
         : QObject(&pencere), pencere_(pencere), yer_(std::move(yer)), kenarlar_(beklenenÇerçeve())
     {
+        setObjectName(QStringLiteral("ÇerçeveBekleyen"));
         pencere.installEventFilter(this);
         koy();
     }

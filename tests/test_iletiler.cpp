@@ -112,7 +112,14 @@ private:
     /// In a window beside the main one.
     void inWindow(const QString& entry, const std::function<void(QDialog&)>& user)
     {
-        QVERIFY(PencereAç([&] { choose(entry); }, [&](QDialog& w) { (w.move(3, 5), user(w)); }));
+        QVERIFY(PencereAç([&] { choose(entry); },
+                          [&](QDialog& w) {
+                              // Until then it would be put back where it belongs.
+                              QTRY_VERIFY_WITH_TIMEOUT(!w.findChild<QObject*>(u"ÇerçeveBekleyen"_s),
+                                                       BeklemeSınırı);
+                              w.move(3, 5);
+                              user(w);
+                          }));
     }
     /// Leaves the date of an article that is being added, and saves it where the date asks for nothing.
     Steps adding(const Makale& article)
