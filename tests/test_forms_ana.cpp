@@ -369,8 +369,9 @@ void TestMainWindow::exitSaves()
     AyarMetni(Ayarlar::Sol, u"1500"_s);
     AyarMetni(Ayarlar::Üst, u"1200"_s);
     t->Göster();
-    AyarMetni(Ayarlar::SonYazar, u"old"_s);
-    AyarMetni(Ayarlar::Sol, u"old"_s);
+    for (const SayıAnahtarı ayar :
+         std::initializer_list<SayıAnahtarı>{Ayarlar::SonYazar, Ayarlar::Sol, Ayarlar::Üst})
+        AyarMetni(ayar, u"old"_s);
     t->Yazarlar().ListIndex(author);
     if (state == 1)
         t->Form->setWindowState(Qt::WindowMinimized);
@@ -378,6 +379,7 @@ void TestMainWindow::exitSaves()
     QTEST(AyarMetni(Ayarlar::SonYazar), "savedAuthor");
     QCOMPARE(AyarMetni(Ayarlar::TamEkran), QString::number(state));
     QCOMPARE(AyarMetni(Ayarlar::Sol), state == 0 ? u"1500"_s : u"old"_s);
+    QCOMPARE(AyarMetni(Ayarlar::Üst), state == 0 ? u"1200"_s : u"old"_s);
     // The library is let go of, and its account has lived for this run only.
     QVERIFY(!Veritabanı && !ÇalışmaAlanı);
     QCOMPARE(SahipÇalışmaAlanı(*Motor).Users().Tümü().size(), std::size_t(1));

@@ -60,6 +60,10 @@ private slots:
             t->Metin().Seç(4, 5);
             QCOMPARE(copied(byMenu), u"satır"_s);
         }
+        QApplication::clipboard()->setText(u"önce"_s);
+        t->Metin().Text({});
+        entry(u"KopyalaMenüsü"_s).trigger(); // of an empty pane: the clipboard stays as it is
+        QCOMPARE(QApplication::clipboard()->text(), u"önce"_s);
     }
     void noPrinter()
     {
