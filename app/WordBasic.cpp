@@ -4,8 +4,8 @@
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
 #include "app/OrtakApilerModülü.h"
-#include "app/RtfBelgesi.h"
 #include "app/İletiKutusu.h"
+#include "document/RtfBelgesi.h"
 
 #include <QClipboard>
 #include <QCursor>

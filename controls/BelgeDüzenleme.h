@@ -1,7 +1,7 @@
 // Changes to a text document that are one step each: for undoing, and for the widget that shows it.
 #pragma once
 
-#include "controls/BiçimliMetin.h"
+#include "document/BiçimliMetin.h"
 
 #include <QColor>
 #include <QList>

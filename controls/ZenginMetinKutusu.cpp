@@ -1,7 +1,7 @@
 #include "controls/ZenginMetinKutusu.h"
 
-#include "app/RtfBelgesi.h"
 #include "controls/BelgeDüzenleme.h"
+#include "document/RtfBelgesi.h"
 
 #include <QMimeData>
 #include <QScrollBar>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/Görünüm.h"
-#include "controls/BiçimliMetin.h"
 #include "controls/TuşSüzgeci.h"
+#include "document/BiçimliMetin.h"
 
 #include <QList>
 #include <QPlainTextEdit>

@@ -8,7 +8,7 @@
 #include "app/İletiKutusu.h"
 #include "controls/DosyaSorucu.h"
 #include "controls/Etiketler.h"
-#include "controls/MetinDosyası.h"
+#include "document/MetinDosyası.h"
 #include "text/TürkçeHarfler.h"
 #include "text/TürkçeTarih.h"
 

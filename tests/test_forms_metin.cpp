@@ -1,7 +1,7 @@
 // The rich-text box, what is done with the shown text, and the window that composes a reference.
 #include "DenemeProgramı.h"
 
-#include "controls/RtfOkuyucu.h"
+#include "document/RtfOkuyucu.h"
 #include "forms/ReferansFormu.h"
 
 #include <QApplication>

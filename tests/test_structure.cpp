@@ -15,12 +15,13 @@ private slots:
     {
         // Each folder may include itself and what is named behind it.
         const QMap<QString, QString> layers = {{u"text"_s, u""_s},
+                                               {u"document"_s, u""_s},
                                                {u"store"_s, u"text"_s},
-                                               {u"app"_s, u"text store"_s},
-                                               {u"controls"_s, u"text store app"_s},
-                                               {u"forms"_s, u"text store app controls"_s},
-                                               {u"program"_s, u"text store app controls forms"_s},
-                                               {u"tools"_s, u"text store"_s}};
+                                               {u"app"_s, u"text document store"_s},
+                                               {u"controls"_s, u"text document store app"_s},
+                                               {u"forms"_s, u"text document store app controls"_s},
+                                               {u"program"_s, u"text document store app controls forms"_s},
+                                               {u"tools"_s, u"text document store"_s}};
         static const QRegularExpression include(u"#include [\"<](\\w+)/"_s),
             mocClass(u"class\\s+(\\S+)[^;{]*\\{\\s*Q_OBJECT"_s), letters(u"^[ -~]*$"_s);
         int includes = 0, classes = 0;

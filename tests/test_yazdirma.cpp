@@ -3,9 +3,9 @@
 
 #include "app/HataPolitikaları.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "app/RtfBelgesi.h"
 #include "app/WordBasic.h"
 #include "app/Yazıcılar.h"
+#include "document/RtfBelgesi.h"
 #include "forms/YazıcıSeçmeFormu.h"
 
 #include <QClipboard>

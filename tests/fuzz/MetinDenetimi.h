@@ -1,7 +1,7 @@
 // What must hold for every text that was read, whatever the bytes were.
 #pragma once
 
-#include "controls/BiçimliMetin.h"
+#include "document/BiçimliMetin.h"
 
 /// What is wrong with the text; nullptr when nothing is.
 inline const char* MetinKusuru(const BiçimliMetin& okunan)

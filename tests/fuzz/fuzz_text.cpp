@@ -1,8 +1,8 @@
 // Fuzz target: text files of all kinds.
 #include "MetinDenetimi.h"
 
-#include "controls/MetinDosyası.h"
-#include "controls/RtfOkuyucu.h"
+#include "document/MetinDosyası.h"
+#include "document/RtfOkuyucu.h"
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "controls/KodSayfası.h"
+#include "document/KodSayfası.h"
 
 #include <iconv.h>
 #include <unicode/ucnv.h>

@@ -1,4 +1,4 @@
-#include "controls/RtfTabloları.h"
+#include "document/RtfTabloları.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "controls/RtfDurumu.h"
+#include "document/RtfDurumu.h"
 
 #include <algorithm>
 

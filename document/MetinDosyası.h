@@ -1,7 +1,7 @@
 // Reads text files of any kind that articles come in.
 #pragma once
 
-#include "controls/BiçimliMetin.h"
+#include "document/BiçimliMetin.h"
 
 #include <QByteArrayView>
 #include <QString>

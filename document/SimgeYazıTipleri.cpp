@@ -1,4 +1,4 @@
-#include "controls/SimgeYazıTipleri.h"
+#include "document/SimgeYazıTipleri.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "fuzz/MetinDenetimi.h"
 
-#include "controls/MetinDosyası.h"
-#include "controls/RtfOkuyucu.h"
+#include "document/MetinDosyası.h"
+#include "document/RtfOkuyucu.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -18,7 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestControlsRtf : public QObject
+class TestDocument : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private slots:
     void floods();
 };
 
-void TestControlsRtf::texts_data()
+void TestDocument::texts_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text"); // and behind a bar "place+length format" of each stretch
@@ -145,7 +145,7 @@ void TestControlsRtf::texts_data()
     plain("no RTF", "x{\\rtf1 a}", u"x{\\rtf1 a}"_s);
 }
 
-void TestControlsRtf::texts()
+void TestDocument::texts()
 {
     QFETCH(QByteArray, bytes);
     const QTemporaryDir folder;
@@ -164,7 +164,7 @@ void TestControlsRtf::texts()
     QTEST(okunan.Metin + (stretches.isEmpty() ? QString() : u'|' + stretches.join(u',')), "text");
 }
 
-void TestControlsRtf::fileErrors_data()
+void TestDocument::fileErrors_data()
 {
     QTest::addColumn<QByteArray>("bytes"); // of a regular file; else the row's name says what there is
     QTest::addColumn<QString>("reason");
@@ -183,7 +183,7 @@ void TestControlsRtf::fileErrors_data()
     row("cut in a table", "\xef\xbb\xbf \r\n{\\rtf1{\\fonttbl{\\f0 Ari", u"bozuk"_s);
 }
 
-void TestControlsRtf::fileErrors()
+void TestDocument::fileErrors()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, reason);
@@ -210,7 +210,7 @@ void TestControlsRtf::fileErrors()
     }
 }
 
-void TestControlsRtf::mutations()
+void TestDocument::mutations()
 {
     const QDir corpus(QStringLiteral(CORPUS_FOLDER));
     QByteArrayList seeds;
@@ -244,7 +244,7 @@ void TestControlsRtf::mutations()
     QVERIFY(readable > 3000);
 }
 
-void TestControlsRtf::floods_data()
+void TestDocument::floods_data()
 {
     QTest::addColumn<QByteArray>("head");
     QTest::addColumn<QByteArray>("unit");
@@ -266,7 +266,7 @@ void TestControlsRtf::floods_data()
 }
 
 // Nothing grows faster than the input.
-void TestControlsRtf::floods()
+void TestDocument::floods()
 {
     QFETCH(QByteArray, head);
     QFETCH(QByteArray, unit);
@@ -280,5 +280,5 @@ void TestControlsRtf::floods()
             20 * body.size());
 }
 
-QTEST_APPLESS_MAIN(TestControlsRtf)
-#include "test_controls_rtf.moc"
+QTEST_APPLESS_MAIN(TestDocument)
+#include "test_document.moc"

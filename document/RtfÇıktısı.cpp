@@ -1,4 +1,4 @@
-#include "controls/RtfÇıktısı.h"
+#include "document/RtfÇıktısı.h"
 
 #include <algorithm>
 #include <utility>

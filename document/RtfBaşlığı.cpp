@@ -1,4 +1,4 @@
-#include "controls/RtfBaşlığı.h"
+#include "document/RtfBaşlığı.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
-#include "controls/RtfÖnBakış.h"
+#include "document/RtfÖnBakış.h"
 
-#include "controls/KodSayfası.h"
-#include "controls/RtfSözcükleri.h"
-#include "controls/RtfTabloları.h"
-#include "controls/Utf8.h"
+#include "document/KodSayfası.h"
+#include "document/RtfSözcükleri.h"
+#include "document/RtfTabloları.h"
+#include "document/Utf8.h"
 
 #include <QByteArray>
 

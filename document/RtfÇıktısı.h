@@ -1,7 +1,7 @@
 // Collects the text that an RTF document gives, and its formats.
 #pragma once
 
-#include "controls/BiçimliMetin.h"
+#include "document/BiçimliMetin.h"
 
 #include <string_view>
 

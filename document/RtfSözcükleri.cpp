@@ -1,4 +1,4 @@
-#include "controls/RtfSözcükleri.h"
+#include "document/RtfSözcükleri.h"
 
 #include <algorithm>
 #include <array>

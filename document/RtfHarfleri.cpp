@@ -1,4 +1,4 @@
-#include "controls/RtfHarfleri.h"
+#include "document/RtfHarfleri.h"
 
 #include <utility>
 

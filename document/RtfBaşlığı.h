@@ -1,10 +1,10 @@
 // The tables at the head of an RTF document: fonts with their code pages, and colours.
 #pragma once
 
-#include "controls/BiçimliMetin.h"
-#include "controls/KodSayfası.h"
-#include "controls/RtfTabloları.h"
-#include "controls/SimgeYazıTipleri.h"
+#include "document/BiçimliMetin.h"
+#include "document/KodSayfası.h"
+#include "document/RtfTabloları.h"
+#include "document/SimgeYazıTipleri.h"
 
 #include <QHash>
 

@@ -1,9 +1,9 @@
 // What holds for the text at one place of an RTF document.
 #pragma once
 
-#include "controls/RtfBaşlığı.h"
-#include "controls/RtfSözcükleri.h"
-#include "controls/RtfTabloları.h"
+#include "document/RtfBaşlığı.h"
+#include "document/RtfSözcükleri.h"
+#include "document/RtfTabloları.h"
 
 /// Where text goes.
 enum class RtfHedefi : quint8

@@ -1,16 +1,16 @@
-#include "controls/RtfOkuyucu.h"
+#include "document/RtfOkuyucu.h"
 
-#include "controls/RtfAlanı.h"
-#include "controls/RtfBaşlığı.h"
-#include "controls/RtfDurumu.h"
-#include "controls/RtfHarfleri.h"
-#include "controls/RtfMaddeleri.h"
-#include "controls/RtfSatırı.h"
-#include "controls/RtfSözcükleri.h"
-#include "controls/RtfTabloları.h"
-#include "controls/RtfÇıktısı.h"
-#include "controls/RtfÖnBakış.h"
-#include "controls/Utf8.h"
+#include "document/RtfAlanı.h"
+#include "document/RtfBaşlığı.h"
+#include "document/RtfDurumu.h"
+#include "document/RtfHarfleri.h"
+#include "document/RtfMaddeleri.h"
+#include "document/RtfSatırı.h"
+#include "document/RtfSözcükleri.h"
+#include "document/RtfTabloları.h"
+#include "document/RtfÇıktısı.h"
+#include "document/RtfÖnBakış.h"
+#include "document/Utf8.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "controls/RtfAlanı.h"
+#include "document/RtfAlanı.h"
 
-#include "controls/KodSayfası.h"
-#include "controls/SimgeYazıTipleri.h"
+#include "document/KodSayfası.h"
+#include "document/SimgeYazıTipleri.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // Items of old lists, whose bullets and numbers an RTF document may leave to the reader.
 #pragma once
 
-#include "controls/RtfTabloları.h"
+#include "document/RtfTabloları.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
-#include "controls/MetinDosyası.h"
+#include "document/MetinDosyası.h"
 
-#include "controls/KodSayfası.h"
-#include "controls/RtfOkuyucu.h"
-#include "controls/Utf8.h"
+#include "document/KodSayfası.h"
+#include "document/RtfOkuyucu.h"
+#include "document/Utf8.h"
 
 #include <QFile>
 #include <QFileInfo>

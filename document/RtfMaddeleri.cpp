@@ -1,4 +1,4 @@
-#include "controls/RtfMaddeleri.h"
+#include "document/RtfMaddeleri.h"
 
 #include <algorithm>
 #include <utility>

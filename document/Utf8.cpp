@@ -1,4 +1,4 @@
-#include "controls/Utf8.h"
+#include "document/Utf8.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Bytes of an RTF document made into letters.
 #pragma once
 
-#include "controls/RtfBaşlığı.h"
+#include "document/RtfBaşlığı.h"
 
 #include <array>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "app/RtfBelgesi.h"
+#include "document/RtfBelgesi.h"
 
 #include <QChar>
 

@@ -1,7 +1,7 @@
 // Reads Rich Text Format as far as a reader of articles needs it: the running text and its letters' formats.
 #pragma once
 
-#include "controls/BiçimliMetin.h"
+#include "document/BiçimliMetin.h"
 
 #include <QByteArrayView>
 
