@@ -1,5 +1,7 @@
 #include "app/Görünüm.h"
 
+#include "system/EkranÖlçüsü.h"
+
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QScreen>
@@ -16,8 +18,6 @@ constexpr std::array<int, 5> boyutlar = {8, 10, 11, 12, 14};
 constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00, 0x00FFFF, DüğmeYüzüRengi};
 
 constexpr Renk SistemRengi = 0x80000000;
-constexpr double TwipİnçBaşına = 1440.0;
-constexpr double OlağanNokta = 96.0;
 double formYazıBoyutu = OlağanYazıBoyutu;
 constexpr double EnAzKarşıtlık = 4.5; // WCAG 2.1, success criterion 1.4.3
 
@@ -25,12 +25,6 @@ template<class Tablo> auto tablodan(const Tablo& tablo, qint16 sıra)
 {
     return sıra >= 0 && static_cast<std::size_t>(sıra) < tablo.size() ? tablo[static_cast<std::size_t>(sıra)]
                                                                       : typename Tablo::value_type(0);
-}
-
-double nokta()
-{
-    const QScreen* ekran = QGuiApplication::primaryScreen();
-    return ekran ? ekran->logicalDotsPerInch() : OlağanNokta;
 }
 
 /// What the measures of windows are multiplied by.
@@ -129,16 +123,6 @@ QString FormYazıTipiAdı()
     return QFontInfo(FormYazıTipi()).family();
 }
 
-int Piksel(double twip)
-{
-    return static_cast<int>(std::lround(twip * nokta() / TwipİnçBaşına));
-}
-
-int Twip(int piksel)
-{
-    return static_cast<int>(std::lround(piksel * TwipİnçBaşına / nokta()));
-}
-
 int FormPikseli(double twip)
 {
     return Piksel(twip * büyütme());
@@ -146,5 +130,5 @@ int FormPikseli(double twip)
 
 int FormTwipi(int piksel)
 {
-    return static_cast<int>(std::lround(piksel * TwipİnçBaşına / nokta() / büyütme()));
+    return Twip(piksel / büyütme());
 }

@@ -46,10 +46,7 @@ QFont FormYazıTipi(double nokta = OlağanYazıBoyutu);
 /// Its family: the one that it has here where its own is not installed.
 QString FormYazıTipiAdı();
 
-/// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots. These are for places on the
-/// screen.
-int Piksel(double twip);
-int Twip(int piksel);
-/// These are for the measures of windows and controls, which grow with the letters.
+/// Twips to pixels and back for the measures of windows and controls, which grow with the letters. Places on
+/// the screen don't (Piksel, Twip).
 int FormPikseli(double twip);
 int FormTwipi(int piksel);

@@ -3,51 +3,37 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
-#include "store/VeritabanıHatası.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <new>
 
-namespace {
-
-// The customary numbers of run-time errors that do not come from the store.
-constexpr int YetersizBellek = 7;
-constexpr int İçHata = 51;
-
-} // namespace
-
-ÇalışmaHatası::ÇalışmaHatası(int numara, const QString& açıklama)
-    : numara_(numara), açıklama_(açıklama), bayt_(açıklama.toUtf8())
-{
-}
-
-HataBilgisi ŞimdikiHata()
+Hata ŞimdikiHata()
 {
     try {
         throw;
-    } catch (const VeritabanıHatası& hata) {
-        return {static_cast<int>(hata.Numara()), hata.Açıklama()};
-    } catch (const ÇalışmaHatası& hata) {
-        return {hata.Numara(), hata.Açıklama()};
+    } catch (const Hata& hata) {
+        return hata;
     } catch (const std::bad_alloc&) {
-        return {YetersizBellek, QStringLiteral("Yetersiz bellek.")};
+        return ÇalışmaHatası(ÇalışmaHataNo::YetersizBellek, QStringLiteral("Yetersiz bellek."));
     } catch (const std::exception& hata) {
-        return {İçHata, QStringLiteral("İç hata: %1").arg(QString::fromUtf8(hata.what()))};
+        return ÇalışmaHatası(ÇalışmaHataNo::İçHata,
+                             QStringLiteral("İç hata: %1").arg(QString::fromUtf8(hata.what())));
     } catch (...) {
-        return {İçHata, QStringLiteral("İç hata.")};
+        return ÇalışmaHatası(ÇalışmaHataNo::İçHata, QStringLiteral("İç hata."));
     }
 }
 
-QString HataMetni(int metin, const HataBilgisi& hata)
+QString HataMetni(int metin, const Hata& hata)
 {
-    return Paragraflar({Metin(metin), Metin(15) + u' ' + QString::number(hata.Numara),
-                        Metin(20) + u' ' + hata.Açıklama});
+    return Paragraflar({Metin(metin), Metin(15) + u' ' + QString::number(hata.Numara()),
+                        Metin(20) + u' ' + hata.Açıklama()});
 }
 
-void HataBildirVeÇık(const HataBilgisi& hata)
+void HatayıBildirVeBit(const Hata& hata)
 {
-    std::fprintf(stderr, "belgenar: %d %s\n", hata.Numara, qUtf8Printable(hata.Açıklama));
+    std::fprintf(stderr, "belgenar: %d %s\n", hata.Numara(), hata.what());
     İletiGöster(HataMetni(10, hata), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
     ProgramıBitir(1);
 }
@@ -59,9 +45,8 @@ void ProgramıBitir(int durum)
     std::_Exit(durum);
 }
 
-void HatayıGünlüğeYaz(const char* işleyici)
+void HatayıGünlüğeYaz(const std::source_location& yer)
 {
-    const HataBilgisi hata = ŞimdikiHata();
-    std::fprintf(stderr, "belgenar: %s: %d %s\n", işleyici ? işleyici : "-", hata.Numara,
-                 qUtf8Printable(hata.Açıklama));
+    const Hata hata = ŞimdikiHata();
+    std::fprintf(stderr, "belgenar: %s: %d %s\n", yer.function_name(), hata.Numara(), hata.what());
 }

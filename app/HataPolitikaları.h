@@ -2,88 +2,59 @@
 // exception ever reaches the toolkit.
 #pragma once
 
-#include <QString>
+#include "base/Hata.h"
 
-#include <exception>
+#include <source_location>
 #include <utility>
 
-struct HataBilgisi
-{
-    int Numara;
-    QString Açıklama;
-};
-
-/// Thrown by app/ where the operating system or another program fails. Carries the customary number of
-/// the run-time error and a Turkish sentence for the user.
-class ÇalışmaHatası : public std::exception
-{
-public:
-    ÇalışmaHatası(int numara, const QString& açıklama);
-
-    int Numara() const noexcept { return numara_; }
-    const QString& Açıklama() const noexcept { return açıklama_; }
-    const char* what() const noexcept override { return bayt_.constData(); }
-
-private:
-    int numara_;
-    QString açıklama_;
-    QByteArray bayt_; // the description as UTF-8, for what()
-};
-
-/// The exception being handled; to be called inside a catch block only.
-HataBilgisi ŞimdikiHata();
+/// The exception being handled, as an error that can be told; to be called inside a catch block only.
+Hata ŞimdikiHata();
 
 /// What users are told of an error: the text with this number, then the error's number and description, each
 /// a paragraph.
-QString HataMetni(int metin, const HataBilgisi& hata);
+QString HataMetni(int metin, const Hata& hata);
 
 /// Shows the error with its number and description, and ends the program. Does not return.
-[[noreturn]] void HataBildirVeÇık(const HataBilgisi& hata);
+[[noreturn]] void HatayıBildirVeBit(const Hata& hata);
 
 /// Lets go of the library and ends the process at once; open windows vanish with it.
 [[noreturn]] void ProgramıBitir(int durum);
 
-/// Writes an error that its handler passes over to the log.
-void HatayıGünlüğeYaz(const char* işleyici);
+/// Writes the exception being handled, which its handler passes over, to the log.
+/// @param yer in the handler
+void HatayıGünlüğeYaz(const std::source_location& yer);
 
-/// Runs every step; an error ends its own step only.
-template<class... Adımlar> void AdımAdım(Adımlar&&... adımlar)
-{
-    const auto dene = [](auto&& adım) {
-        try {
-            adım();
-        } catch (...) {
-            HatayıGünlüğeYaz(nullptr);
-        }
-    };
-    (dene(std::forward<Adımlar>(adımlar)), ...);
-}
-
-/// Runs the body; the first error ends it silently.
-template<class Gövde> void İlkHatadaBit(Gövde&& gövde)
-{
-    AdımAdım(std::forward<Gövde>(gövde));
-}
-
-/// Runs the body; the first error is reported and ends the program.
-template<class Gövde> decltype(auto) HatadaBildirVeÇık(Gövde&& gövde)
+/// Runs the body; the first error ends it, is logged, and leaves the window usable.
+/// @return whether the body ran to its end
+template<class Gövde>
+bool İlkHatadaBit(Gövde&& gövde, const std::source_location& yer = std::source_location::current())
 {
     try {
-        return gövde();
+        std::forward<Gövde>(gövde)();
+        return true;
     } catch (...) {
-        HataBildirVeÇık(ŞimdikiHata());
+        HatayıGünlüğeYaz(yer);
+        return false;
     }
 }
 
-/// Runs a handler that declares no policy: an error ends it and is logged, and the window stays usable.
-/// @return whether the body ran to its end
-template<class Gövde> bool Olay(const char* işleyici, Gövde&& gövde)
+/// Runs every step; an error ends its own step only. To be used as a function: it is a class so that the
+/// caller's place can stand behind any number of steps.
+template<class... Adımlar> struct AdımAdım
+{
+    explicit AdımAdım(Adımlar&&... adımlar, const std::source_location& yer = std::source_location::current())
+    {
+        (İlkHatadaBit(std::forward<Adımlar>(adımlar), yer), ...);
+    }
+};
+template<class... Adımlar> AdımAdım(Adımlar&&...) -> AdımAdım<Adımlar...>;
+
+/// Runs the body; the first error is reported and ends the program.
+template<class Gövde> decltype(auto) HatadaÇık(Gövde&& gövde)
 {
     try {
-        gövde();
-        return true;
+        return std::forward<Gövde>(gövde)();
     } catch (...) {
-        HatayıGünlüğeYaz(işleyici);
-        return false;
+        HatayıBildirVeBit(ŞimdikiHata());
     }
 }

@@ -39,7 +39,8 @@ QString Paragraflar(const QStringList& paragraflar)
     kutu.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
     kutu.setTextFormat(Qt::PlainText); // file names and articles may hold anything
-    kutu.setText(QString(metin).replace(QLatin1String("\r\n"), QLatin1String("\n"))); // the toolkit's line end
+    kutu.setText(
+        QString(metin).replace(QLatin1String("\r\n"), QLatin1String("\n"))); // the toolkit's line end
     kutu.setIcon(kutuSimgesi(simge));
     if (düğmeler == İletiDüğmeleri::Tamam) {
         kutu.setStandardButtons(QMessageBox::Ok);

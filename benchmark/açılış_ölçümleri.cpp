@@ -1,8 +1,8 @@
 #include "Ölçümler.h"
 
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "store/MakaleKitaplığı.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QFile>
 

@@ -1,7 +1,8 @@
 #include "controls/WebEtiketi.h"
 
 #include "app/HataPolitikaları.h"
-#include "app/OrtakApilerModülü.h"
+#include "system/EkranÖlçüsü.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
@@ -263,7 +264,7 @@ bool WebEtiketi::eventFilter(QObject* nesne, QEvent* olay)
     const auto fare = [olay]() -> const QMouseEvent& { return *static_cast<QMouseEvent*>(olay); };
     switch (olay->type()) {
     case QEvent::MouseMove:
-        Olay("WebEtiketi_MouseMove", [&] {
+        İlkHatadaBit([&] {
             const QPoint yer = fare().position().toPoint();
             if (MouseMove)
                 MouseMove(düğmeSayısı(fare().buttons()), üstTuşSayısı(fare().modifiers()),

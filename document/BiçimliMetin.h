@@ -1,10 +1,10 @@
 // Text with character formats, as read from a file.
 #pragma once
 
+#include "base/Hata.h"
+
 #include <QList>
 #include <QString>
-
-#include <exception>
 
 /// How letters look. A default value means that the file does not say: the box shows its own.
 struct KarakterBiçimi
@@ -42,17 +42,9 @@ struct BiçimliMetin
     QList<BiçimliParça> Parçalar;
 };
 
-/// The text can't be read.
-class MetinOkumaHatası : public std::exception
+/// The text can't be read. Has no number.
+class MetinOkumaHatası : public Hata
 {
 public:
-    /// @param açıklama a Turkish sentence for the user
-    explicit MetinOkumaHatası(const QString& açıklama) : açıklama_(açıklama), bayt_(açıklama.toUtf8()) {}
-
-    const QString& Açıklama() const noexcept { return açıklama_; }
-    const char* what() const noexcept override { return bayt_.constData(); }
-
-private:
-    QString açıklama_;
-    QByteArray bayt_; // the description as UTF-8, for what()
+    using Hata::Hata;
 };

@@ -3,10 +3,11 @@
 #include "app/Ayarlar.h"
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/PencereYeri.h"
 #include "controls/Etiketler.h"
+#include "system/EkranÖlçüsü.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -260,7 +261,7 @@ void AnaForm::YazarListesi_Click()
 {
     if (sonuçGörünümü())
         return;
-    const bool tamam = Olay("YazarListesi_Click", [this] {
+    const bool tamam = İlkHatadaBit([this] {
         Recordset kayıtlar = Veritabanı->OpenRecordset(
             QStringLiteral("SELECT * FROM [Makaleler] WHERE [YazarAdi]='") + YazarListesi.Text() + u'\'');
         if (!kayıtlar.Eof() && !makaleListesiniDoldur(kayıtlar))
@@ -303,7 +304,7 @@ void AnaForm::MakaleleriBoşalt()
 
 void AnaForm::MakaleListesi_Click()
 {
-    const bool tamam = Olay("MakaleListesi_Click", [this] {
+    const bool tamam = İlkHatadaBit([this] {
         Recordset kayıtlar = MakaleyiAç(MakaleListesi.Text());
         if (kayıtlar.Eof()) {
             MakaleMetniKutusu.Text({});

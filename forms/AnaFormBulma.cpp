@@ -3,9 +3,9 @@
 
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "system/OrtakApilerModülü.h"
 #include "text/TürkçeArama.h"
 
 #include <QGuiApplication>

@@ -32,7 +32,7 @@ void AnaForm::menüOlaylarınıBağla()
 
 void AnaForm::MakaleEkleMenüsü_Click()
 {
-    Olay("MakaleEkleMenüsü_Click", [this] {
+    İlkHatadaBit([this] {
         EkleFormu form(*this);
         ekleFormu_ = &form;
         const auto sonunda = qScopeGuard([this] { ekleFormu_ = nullptr; });
@@ -42,7 +42,7 @@ void AnaForm::MakaleEkleMenüsü_Click()
 
 void AnaForm::MakeleDeğiştirMenüsü_Click()
 {
-    Olay("MakeleDeğiştirMenüsü_Click", [this] {
+    İlkHatadaBit([this] {
         if (SeçiliMakale().isEmpty()) {
             İletiGöster(Metin(550), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
             MakaleListesi.setFocus();
@@ -79,25 +79,25 @@ void AnaForm::MakaleSilMenüsü_Click()
 
 void AnaForm::ReferansOluşturMenüsü_Click()
 {
-    Olay("ReferansOluşturMenüsü_Click", [this] { ReferansFormu(SeçiliMakale()).exec(); });
+    İlkHatadaBit([this] { ReferansFormu(SeçiliMakale()).exec(); });
 }
 
 void AnaForm::AyarlarMenüsü_Click()
 {
-    Olay("AyarlarMenüsü_Click", [this] { AyarlarFormu(*this).exec(); });
+    İlkHatadaBit([this] { AyarlarFormu(*this).exec(); });
 }
 
 void AnaForm::AyarlarMenüsü1_Click()
 {
-    Olay("AyarlarMenüsü1_Click", [this] { AyarlarFormu(*this).exec(); });
+    İlkHatadaBit([this] { AyarlarFormu(*this).exec(); });
 }
 
 void AnaForm::HatalarıBildirinMenüsü_Click()
 {
-    Olay("HatalarıBildirinMenüsü_Click", [] { HataBildirmeFormu().exec(); });
+    İlkHatadaBit([] { HataBildirmeFormu().exec(); });
 }
 
 void AnaForm::HakkındaMenüsü_Click()
 {
-    Olay("HakkındaMenüsü_Click", [] { HakkındaFormu().exec(); });
+    İlkHatadaBit([] { HakkındaFormu().exec(); });
 }

@@ -2,11 +2,12 @@
 #include "forms/AnaForm.h"
 
 #include "app/HataPolitikaları.h"
+#include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "app/WordBasic.h"
-#include "app/Yazıcılar.h"
+#include "app/WordAktarımı.h"
 #include "app/İletiKutusu.h"
 #include "forms/YazıcıSeçmeFormu.h"
+#include "system/Yazıcılar.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -45,7 +46,7 @@ void AnaForm::TümünüSeçMenüsü_Click()
 
 void AnaForm::KopyalaMenüsü_Click()
 {
-    Olay("KopyalaMenüsü_Click", [this] {
+    İlkHatadaBit([this] {
         if (!MakaleMetniKutusu.document()->isEmpty())
             QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText());
     });
@@ -76,11 +77,12 @@ void AnaForm::yazdır()
     YazdırKutusu.Text(MakaleMetniKutusu.SelLength() == 0 ? MakaleMetniKutusu.Text()
                                                          : MakaleMetniKutusu.SelText());
     const auto sonunda = qScopeGuard([this] { YazdırKutusu.Text({}); });
-    MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize(), SeçiliMakale());
+    MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize(),
+                SeçiliMakale().isEmpty() ? Metin(5) : SeçiliMakale());
 }
 
 void AnaForm::WordeYapıştırMenüsü_Click()
 {
-    Olay("WordeYapıştırMenüsü_Click",
-         [this] { WordeAktar([this](WordBasic& word) { word.Insert(MakaleMetniKutusu.SelText()); }); });
+    İlkHatadaBit(
+        [this] { WordeAktar([this](WordBasic& word) { word.Insert(MakaleMetniKutusu.SelText()); }); });
 }

@@ -5,6 +5,7 @@
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/PencereYeri.h"
+#include "system/EkranÖlçüsü.h"
 
 #include <QMoveEvent>
 #include <QResizeEvent>

@@ -10,6 +10,7 @@
 #include "app/İletiKutusu.h"
 #include "forms/EkleFormu.h"
 #include "store/MakaleKitaplığı.h"
+#include "system/EkranÖlçüsü.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

@@ -3,11 +3,11 @@
 #include "app/Ayarlar.h"
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "controls/Etiketler.h"
 #include "controls/YazıTipleriModülü.h"
 #include "forms/AnaForm.h"
+#include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
 
 #include <QGridLayout>

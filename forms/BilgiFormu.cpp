@@ -3,7 +3,7 @@
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QMouseEvent>
 
@@ -83,18 +83,18 @@ void BilgiFormu::Altlık_MouseMove()
 bool BilgiFormu::eventFilter(QObject* nesne, QEvent* olay)
 {
     if (nesne == &Altlık && olay->type() == QEvent::MouseMove)
-        Olay("Altlık_MouseMove", [this] { Altlık_MouseMove(); });
+        İlkHatadaBit([this] { Altlık_MouseMove(); });
     return QDialog::eventFilter(nesne, olay);
 }
 
 void BilgiFormu::mouseMoveEvent(QMouseEvent* olay)
 {
-    Olay("Form_MouseMove", [this] { Altlık_MouseMove(); });
+    İlkHatadaBit([this] { Altlık_MouseMove(); });
     QDialog::mouseMoveEvent(olay);
 }
 
 void BilgiFormu::leaveEvent(QEvent* olay)
 {
-    Olay("Form_Leave", [this] { Altlık_MouseMove(); });
+    İlkHatadaBit([this] { Altlık_MouseMove(); });
     QDialog::leaveEvent(olay);
 }

@@ -4,6 +4,7 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/ProgramSimgesi.h"
 #include "controls/Etiketler.h"
+#include "system/EkranÖlçüsü.h"
 
 namespace {
 

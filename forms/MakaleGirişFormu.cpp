@@ -3,12 +3,12 @@
 #include "app/Ayarlar.h"
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
 #include "controls/DosyaSorucu.h"
 #include "controls/Etiketler.h"
 #include "document/MetinDosyası.h"
+#include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
 #include "text/TürkçeTarih.h"
 
@@ -238,7 +238,7 @@ void MakaleGirişFormu::dosyadanYükle()
         uyar(hata.Açıklama());
         return;
     } catch (...) {
-        uyar(ŞimdikiHata().Açıklama);
+        uyar(ŞimdikiHata().Açıklama());
         return;
     }
     dosyaYüklendi();

@@ -2,9 +2,9 @@
 
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "app/WordBasic.h"
+#include "app/WordAktarımı.h"
+#include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
 
 #include <QClipboard>
@@ -89,13 +89,12 @@ QString ReferansFormu::Referans(const QString& yazar, const QString& başlık, c
 
 void ReferansFormu::KopyalaButonu_Click()
 {
-    Olay("KopyalaButonu_Click",
-         [this] { QGuiApplication::clipboard()->setText(ReferansBilgisiKutusu.Text()); });
+    İlkHatadaBit([this] { QGuiApplication::clipboard()->setText(ReferansBilgisiKutusu.Text()); });
 }
 
 void ReferansFormu::WordeYapıştırButonu_Click()
 {
-    Olay("WordeYapıştırButonu_Click", [this] {
+    İlkHatadaBit([this] {
         WordeAktar([this](WordBasic& word) {
             const QByteArray rtf = ReferansBilgisiKutusu.TextRTF();
             auto pano = std::make_unique<QMimeData>();

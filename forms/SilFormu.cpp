@@ -2,11 +2,11 @@
 
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
 #include "controls/Etiketler.h"
 #include "forms/AnaForm.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QGridLayout>
 

@@ -2,9 +2,10 @@
 
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "controls/Etiketler.h"
+#include "system/OrtakApilerModülü.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -12,8 +13,6 @@
 #include <QShortcut>
 
 namespace {
-
-constexpr int GeçersizDizin = 381; // the customary number
 
 constexpr int KutuGenişliği = 4800; // twips
 constexpr int DüğmeGenişliği = 1320;
@@ -171,6 +170,6 @@ const Yazıcı& YazıcıSeçmeFormu::seçiliYazıcı() const
 {
     const int sıra = YazıcıAdlarıKutusu.ListIndex();
     if (sıra < 0)
-        throw ÇalışmaHatası(GeçersizDizin, QStringLiteral("Seçili yazıcı yok."));
+        throw ÇalışmaHatası(ÇalışmaHataNo::GeçersizDizin, QStringLiteral("Seçili yazıcı yok."));
     return yazıcılar_.at(YazıcıAdlarıKutusu.ItemData(sıra));
 }

@@ -1,10 +1,10 @@
 // The window that chooses the printer.
 #pragma once
 
-#include "app/Yazıcılar.h"
 #include "controls/AçılırListe.h"
 #include "controls/Düğme.h"
 #include "controls/MetinKutusu.h"
+#include "system/Yazıcılar.h"
 
 #include <QDialog>
 #include <QFrame>

@@ -1,21 +1,21 @@
 #include "program/GirişModülü.h"
 
-#include "app/BelgeAktarımı.h"
 #include "app/Dil.h"
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
-#include "app/KapatmaSinyalleri.h"
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/PencereYeri.h"
 #include "app/ProgramSimgesi.h"
-#include "app/TekÖrnek.h"
 #include "app/İletiKutusu.h"
 #include "forms/AnaForm.h"
 #include "forms/KarşılamaFormu.h"
 #include "store/MakaleKitaplığı.h"
 #include "store/VeritabanıHatası.h"
+#include "system/BelgeAktarımı.h"
+#include "system/KapatmaSinyalleri.h"
+#include "system/OrtakApilerModülü.h"
+#include "system/TekÖrnek.h"
 
 #include <QApplication>
 #include <QScopeGuard>
@@ -84,7 +84,7 @@ int SubMain(QApplication& uygulama)
     // Both outlive an error report: a second start brings it forward, and the splash stays behind it.
     std::optional<TekÖrnek> tekÖrnek;
     std::optional<KarşılamaFormu> karşılama;
-    return HatadaBildirVeÇık([&] {
+    return HatadaÇık([&] {
         DiliKur();
         FormÖlçüsünüKur(uygulama.font(), {AnaForm::EnAzGenişlik, AnaForm::EnAzYükseklik});
         uygulama.setFont(FormYazıTipi());

@@ -1,5 +1,5 @@
 #include "program/GirişModülü.h"
-#include "store/ÇekirdekDökümü.h"
+#include "system/ÇekirdekDökümü.h"
 
 #include <QApplication>
 

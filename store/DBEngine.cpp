@@ -59,7 +59,7 @@ YapıDurumu DBEngine::CompactDatabase(const QString& kaynak, const QString& hede
         try {
             durum = kopyalaVeDoğrula(*asıl, hedef, parola, grup, DizinKaynağı::Dizinler);
         } catch (const VeritabanıHatası& hata) {
-            if (hata.Numara() != HataNo::DosyaBozuk)
+            if (hata != HataNo::DosyaBozuk)
                 throw;
             durum = YapıDurumu::Okunamıyor;
         }
@@ -97,7 +97,7 @@ try {
         throw VeritabanıHatası(HataNo::DosyaBozuk);
     return durum;
 } catch (const VeritabanıHatası& hata) {
-    if (hata.Numara() != HataNo::DosyaBozuk)
+    if (hata != HataNo::DosyaBozuk)
         throw;
     throw VeritabanıHatası(HataNo::DosyaBozuk, kaynak.Yol());
 }

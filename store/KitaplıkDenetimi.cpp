@@ -40,7 +40,7 @@ DenetimBulgusu bulgu(QStringView dosya, HataNo numara, const QString& metin)
 // The error's own sentence may name a copy, so only its number is used.
 DenetimBulgusu bulgu(QStringView dosya, const VeritabanıHatası& hata)
 {
-    return bulgu(dosya, hata.Numara(), VeritabanıHatası(hata.Numara()).Açıklama());
+    return bulgu(dosya, hata.Tür(), VeritabanıHatası(hata.Tür()).Açıklama());
 }
 
 /// Checks one library; whoever makes one takes the result when both files are done.

@@ -157,8 +157,8 @@ std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QSt
             throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
         return bağlantı;
     } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() == HataNo::ParolaYanlış && grup.KitaplıkParolasıDoğru(parola))
-            throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Numara()), yol);
+        if (hata == HataNo::ParolaYanlış && grup.KitaplıkParolasıDoğru(parola))
+            throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Tür()), yol);
         throw;
     }
 }
@@ -223,8 +223,7 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
     try {
         kopyasınıYerineKoy(yeni, hedef, eski, bildir);
     } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() != HataNo::DiskDolu ||
-            QFileInfo(yeni).canonicalPath() != QFileInfo(hedef).canonicalPath())
+        if (hata != HataNo::DiskDolu || QFileInfo(yeni).canonicalPath() != QFileInfo(hedef).canonicalPath())
             throw;
         Tanıtıcı(yeni, O_RDONLY).HaklarıVer(eski);
         DosyayıTaşı(yeni, hedef);

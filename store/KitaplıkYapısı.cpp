@@ -82,7 +82,7 @@ std::optional<SatırToplamı> dizinToplamı(Bağlantı& kitaplık, const char* s
 try {
     return toplam(kitaplık, sql);
 } catch (const VeritabanıHatası& hata) {
-    if (hata.Numara() != HataNo::DosyaBozuk && hata.Numara() != HataNo::Sözdizimi)
+    if (hata != HataNo::DosyaBozuk && hata != HataNo::Sözdizimi)
         throw;
     return {};
 }
@@ -105,7 +105,7 @@ YapıDurumu YapıyıDenetle(Bağlantı& kitaplık, DenetimDerinliği derinlik)
                 yakınmalar.Ekle(satır);
         }
     } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() != HataNo::DosyaBozuk)
+        if (hata != HataNo::DosyaBozuk)
             throw;
         yakınmalar.Ekle(u"unable to get the page");
     }
@@ -145,7 +145,7 @@ try {
     const YapıDurumu dizinler = DizinleriDenetle(kitaplık, TabloToplamı(kitaplık));
     return durum == YapıDurumu::Sağlam ? dizinler : std::max(YapıDurumu::DizinBozuk, dizinler);
 } catch (const VeritabanıHatası& hata) {
-    if (hata.Numara() != HataNo::DosyaBozuk)
+    if (hata != HataNo::DosyaBozuk)
         throw;
     return YapıDurumu::Okunamıyor;
 }

@@ -97,7 +97,7 @@ YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
     try {
         durum = sıkıştır();
     } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() != HataNo::DiskDolu || !QFileInfo::exists(kopya))
+        if (hata != HataNo::DiskDolu || !QFileInfo::exists(kopya))
             throw;
         DosyayıSil(kopya);
         durum = sıkıştır();
@@ -135,7 +135,7 @@ Database KitaplığıOku(const Workspace& çalışmaAlanı, const QString& klas�
     try {
         return KitaplıkAç(çalışmaAlanı, klasör);
     } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() != HataNo::SaltOkunur)
+        if (hata != HataNo::SaltOkunur)
             throw;
         return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), false, true,
                                          AçmaMetni);

@@ -36,7 +36,7 @@ template<class İş> bool okunduğuKadar(İş&& iş)
         iş();
         return true;
     } catch (const VeritabanıHatası& hata) {
-        if (hata.Numara() != HataNo::DosyaBozuk)
+        if (hata != HataNo::DosyaBozuk)
             throw;
         return false;
     }

@@ -65,12 +65,14 @@ QString cümle(HataNo numara)
     return QStringLiteral("Bilinmeyen hata.");
 }
 
+QString cümle(HataNo numara, const QString& ek)
+{
+    return ek.isEmpty() ? cümle(numara) : QStringLiteral("%1 (%2)").arg(cümle(numara), ek);
+}
+
 } // namespace
 
 VeritabanıHatası::VeritabanıHatası(HataNo numara, const QString& ek)
-    : numara_(numara), açıklama_(cümle(numara)), bayt_()
+    : Hata(cümle(numara, ek), static_cast<int>(numara))
 {
-    if (!ek.isEmpty())
-        açıklama_ += QStringLiteral(" (%1)").arg(ek);
-    bayt_ = açıklama_.toUtf8();
 }

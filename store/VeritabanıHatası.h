@@ -1,9 +1,7 @@
 // The one error type of the store.
 #pragma once
 
-#include <QString>
-
-#include <exception>
+#include "base/Hata.h"
 
 /// What went wrong. The numbers are shown to users and never change; where the field has a customary
 /// number for a fault, that number is used.
@@ -40,19 +38,13 @@ enum class HataNo : int
     DosyaBoş = 3902,
 };
 
-/// Thrown by everything in store/. Carries the number and a Turkish sentence for the user.
-class VeritabanıHatası : public std::exception
+/// Thrown by everything in store/. The sentence goes with the number.
+class VeritabanıHatası : public Hata
 {
 public:
     /// @param ek what the sentence is about (a file, a name); set behind it in brackets when not empty
     explicit VeritabanıHatası(HataNo numara, const QString& ek = {});
 
-    HataNo Numara() const noexcept { return numara_; }
-    const QString& Açıklama() const noexcept { return açıklama_; }
-    const char* what() const noexcept override { return bayt_.constData(); }
-
-private:
-    HataNo numara_;
-    QString açıklama_;
-    QByteArray bayt_; // the description as UTF-8, for what()
+    HataNo Tür() const noexcept { return static_cast<HataNo>(Numara()); }
+    bool operator==(HataNo tür) const noexcept { return Tür() == tür; }
 };

@@ -85,7 +85,7 @@ try : bağlantı_(yol, grupAnahtarı(), kip) {
     if (bağlantı_.Sayı("SELECT count(*) FROM sqlite_master WHERE name IN('Hesaplar', 'Kitaplik')") != 2)
         throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
 } catch (const VeritabanıHatası& hata) {
-    throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Numara()), yol);
+    throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Tür()), yol);
 }
 
 bool ÇalışmaGrubu::HesapGeçerli(const QString& ad, const QString& parola)

@@ -65,7 +65,7 @@ try {
     iş();
     return 0;
 } catch (const VeritabanıHatası& hata) {
-    return static_cast<int>(hata.Numara());
+    return hata.Numara();
 }
 
 QString UzunMetin(int tohum, qsizetype boy)

@@ -2,8 +2,8 @@
 
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
-#include "app/OrtakApilerModülü.h"
 #include "forms/AnaForm.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QSettings>
 #include <QTest>
@@ -88,12 +88,12 @@ private slots:
         AdımAdım(counted, error, counted);
         İlkHatadaBit([&] { (error(), counted()); });
         QCOMPARE(ran, 2);
-        QVERIFY(!Olay("deneme", error) && Olay("deneme", [] {}));
+        QVERIFY(!İlkHatadaBit(error) && İlkHatadaBit([] {}));
         try {
             error();
         } catch (...) {
-            QCOMPARE(ŞimdikiHata().Numara, 3026);
-            QVERIFY(ŞimdikiHata().Açıklama.endsWith(u"(x)"_s));
+            QCOMPARE(ŞimdikiHata().Numara(), 3026);
+            QVERIFY(ŞimdikiHata().Açıklama().endsWith(u"(x)"_s));
         }
     }
 };

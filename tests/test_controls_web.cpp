@@ -2,8 +2,9 @@
 #include "DenemeProgramı.h"
 
 #include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
 #include "controls/WebEtiketi.h"
+#include "system/EkranÖlçüsü.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -14,14 +14,17 @@ private slots:
     void sources()
     {
         // Each folder may include itself and what is named behind it.
-        const QMap<QString, QString> layers = {{u"text"_s, u""_s},
-                                               {u"document"_s, u""_s},
-                                               {u"store"_s, u"text"_s},
-                                               {u"app"_s, u"text document store"_s},
-                                               {u"controls"_s, u"text document store app"_s},
-                                               {u"forms"_s, u"text document store app controls"_s},
-                                               {u"program"_s, u"text document store app controls forms"_s},
-                                               {u"tools"_s, u"text document store"_s}};
+        const QMap<QString, QString> layers = {
+            {u"base"_s, u""_s},
+            {u"text"_s, u"base"_s},
+            {u"document"_s, u"base text"_s},
+            {u"store"_s, u"base text"_s},
+            {u"system"_s, u"base text document"_s},
+            {u"app"_s, u"base text document store system"_s},
+            {u"controls"_s, u"base text document store system app"_s},
+            {u"forms"_s, u"base text document store system app controls"_s},
+            {u"program"_s, u"base text document store system app controls forms"_s},
+            {u"tools"_s, u"base text document store system"_s}};
         static const QRegularExpression include(u"#include [\"<](\\w+)/"_s),
             mocClass(u"class\\s+(\\S+)[^;{]*\\{\\s*Q_OBJECT"_s), letters(u"^[ -~]*$"_s);
         int includes = 0, classes = 0;

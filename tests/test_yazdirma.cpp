@@ -3,10 +3,11 @@
 
 #include "app/HataPolitikaları.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "app/WordBasic.h"
-#include "app/Yazıcılar.h"
+#include "app/WordAktarımı.h"
 #include "document/RtfBelgesi.h"
 #include "forms/YazıcıSeçmeFormu.h"
+#include "system/Yazıcılar.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <QClipboard>
 #include <QLocalServer>

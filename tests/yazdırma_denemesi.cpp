@@ -2,8 +2,8 @@
 //   yazdirma_denemesi               lists the printers, the current one first
 //   yazdirma_denemesi PRINTER       prints standard input; "" stands for the current printer
 // Ends with 2 where the printer is the fault.
-#include "app/HataPolitikaları.h"
-#include "app/Yazıcılar.h"
+#include "system/Yazıcılar.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,20 +1,11 @@
 // The tool's own faults; those of the library and its files are VeritabanıHatası.
 #pragma once
 
-#include <QString>
+#include "base/Hata.h"
 
-#include <exception>
-
-/// Ends a command. Carries a Turkish sentence for the user; has no number.
-class AraçHatası : public std::exception
+/// Ends a command. Has no number.
+class AraçHatası : public Hata
 {
 public:
-    explicit AraçHatası(const QString& açıklama) : açıklama_(açıklama), bayt_(açıklama.toUtf8()) {}
-
-    const QString& Açıklama() const noexcept { return açıklama_; }
-    const char* what() const noexcept override { return bayt_.constData(); }
-
-private:
-    QString açıklama_;
-    QByteArray bayt_; // the sentence as UTF-8, for what()
+    using Hata::Hata;
 };

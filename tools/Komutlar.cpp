@@ -263,10 +263,9 @@ int KomutÇalıştır(const QStringList& değişkenler)
             return YanlışKullanım;
         }
         return seç(değişkenler);
-    } catch (const VeritabanıHatası& hata) {
-        HataBildir(QStringLiteral("%1: %2").arg(int(hata.Numara())).arg(hata.Açıklama()));
-    } catch (const AraçHatası& hata) {
-        HataBildir(hata.Açıklama());
+    } catch (const Hata& hata) {
+        const QString baş = hata.Numara() ? QStringLiteral("%1: ").arg(hata.Numara()) : QString();
+        HataBildir(baş + hata.Açıklama());
     } catch (const std::bad_alloc&) {
         HataBildir(QStringLiteral("Bellek yetmiyor."));
     }

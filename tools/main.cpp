@@ -1,6 +1,6 @@
 // The command-line companion. There is no application object: none of the work needs one, and it would
 // complain about a locale that isn't UTF-8. The arguments are taken as UTF-8 whatever the locale.
-#include "store/ÇekirdekDökümü.h"
+#include "system/ÇekirdekDökümü.h"
 #include "tools/Komutlar.h"
 
 #include <fcntl.h>

@@ -1,9 +1,8 @@
-#include "app/Yazıcılar.h"
+#include "system/Yazıcılar.h"
 
-#include "app/Görünüm.h"
-#include "app/HataPolitikaları.h"
-#include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
+#include "system/EkranÖlçüsü.h"
+#include "system/OrtakApilerModülü.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <QCursor>
 #include <QElapsedTimer>
@@ -19,8 +18,6 @@
 #include <memory>
 
 namespace {
-
-constexpr int YazıcıHatası = 482; // the customary number
 
 // How long the print service may take to connect and to tell its printers, in ms. The service's library
 // would wait for ever for one that is stuck.
@@ -80,7 +77,7 @@ QString işAdı(const QString& başlık)
     QString ad = başlık.left(EnUzunİşAdı).simplified();
     if (!ad.isEmpty() && ad.back().isHighSurrogate()) // cut between the two halves
         ad.chop(1);
-    return ad.isEmpty() ? Metin(5) : ad;
+    return ad;
 }
 
 /// Puts lines on pages, one below the other.
@@ -92,7 +89,7 @@ public:
         biçim_.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         biçim_.setTabStopDistance(Piksel(SekmeAralığı)); // the layout scales the screen's measure
         if (!ressam_.begin(&yazıcı))
-            throw ÇalışmaHatası(YazıcıHatası, QStringLiteral("Yazdırma başlatılamadı."));
+            throw ÇalışmaHatası(ÇalışmaHataNo::Yazıcı, QStringLiteral("Yazdırma başlatılamadı."));
         alan_ = ressam_.viewport();
         son_.start();
     }
@@ -112,7 +109,7 @@ public:
         ressam_.end();
         if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
             throw ÇalışmaHatası(
-                YazıcıHatası,
+                ÇalışmaHataNo::Yazıcı,
                 QStringLiteral("Yazıcı işi kabul etmedi: %1").arg(QString::fromUtf8(cupsLastErrorString())));
     }
 
@@ -137,7 +134,7 @@ private:
         const double boy = satır.height() + satır.leading();
         if (y_ > 0 && y_ + satır.height() > alan_.height()) {
             if (!yazıcı_.newPage())
-                throw ÇalışmaHatası(YazıcıHatası, QStringLiteral("Yeni sayfaya geçilemedi."));
+                throw ÇalışmaHatası(ÇalışmaHataNo::Yazıcı, QStringLiteral("Yeni sayfaya geçilemedi."));
             y_ = 0;
         }
         satır.draw(&ressam_, QPointF(0, y_));
@@ -214,7 +211,8 @@ void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta, con
     const bool var = std::any_of(yazıcılar.begin(), yazıcılar.end(),
                                  [&ad](const Yazıcı& yazıcı) { return yazıcı.Ad == ad; });
     if (!var)
-        throw ÇalışmaHatası(YazıcıHatası, ad.isEmpty() ? QStringLiteral("Kurulu bir yazıcı bulunamadı.")
+        throw ÇalışmaHatası(ÇalışmaHataNo::Yazıcı, ad.isEmpty()
+                                                       ? QStringLiteral("Kurulu bir yazıcı bulunamadı.")
                                                        : QStringLiteral("Yazıcı bulunamadı: ") + ad);
 
     QPrinter yazıcı(QPrinter::HighResolution);

@@ -10,8 +10,8 @@
 /// The program outlives this one. The file goes once it was read.
 /// @param program path of the executable
 /// @param belge RTF
-/// @throw ÇalışmaHatası 75 the file can't be written, 429 the program can't be started, 440 it ended with
-/// an error
+/// @throw ÇalışmaHatası DosyaErişimi: the file can't be written; NesneOluşmadı: the program can't be started;
+/// Otomasyon: it ended with an error
 void BelgeAktar(const QString& program, const QByteArray& belge);
 
 /// Removes the documents that runs which were killed have left: at once, but for those a word processor may

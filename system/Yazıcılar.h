@@ -25,7 +25,6 @@ void GeçerliYazıcı(const QString& ad);
 /// page.
 /// @param yazıTipi family; the next best one where it is not installed
 /// @param nokta points
-/// @param başlık what the print service calls the job, cut where it takes no longer name; the program's name
-///               where it is ""
-/// @throw ÇalışmaHatası 482 there is no such printer (any more), or the service refuses the job
+/// @param başlık what the print service calls the job, cut where it takes no longer name
+/// @throw ÇalışmaHatası Yazıcı: there is no such printer (any more), or the service refuses the job
 void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta, const QString& başlık);

@@ -1,4 +1,4 @@
-#include "app/OrtakApilerModülü.h"
+#include "system/OrtakApilerModülü.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

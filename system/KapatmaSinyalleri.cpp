@@ -1,4 +1,4 @@
-#include "app/KapatmaSinyalleri.h"
+#include "system/KapatmaSinyalleri.h"
 
 #include <cerrno>
 #include <csignal>

@@ -1,8 +1,8 @@
-#include "app/BelgeAktarımı.h"
+#include "system/BelgeAktarımı.h"
 
-#include "app/DosyaGözcüsü.h"
-#include "app/HataPolitikaları.h"
-#include "app/OrtakApilerModülü.h"
+#include "system/DosyaGözcüsü.h"
+#include "system/OrtakApilerModülü.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -34,11 +34,6 @@ constexpr int BakışAralığı = 20;
 constexpr int DenetimAralığı = 2000;
 constexpr int OkunmuşDinlenme = 5000;
 constexpr int OkunmamışBekleme = 120'000;
-
-// The customary numbers.
-constexpr int DosyaErişimHatası = 75;
-constexpr int NesneOluşmadı = 429;
-constexpr int OtomasyonHatası = 440;
 
 QString klasörKalıbı()
 {
@@ -102,7 +97,7 @@ void Aktarım::belgeyiYaz(const QByteArray& belge)
         dosya.write(belge) == belge.size() && dosya.flush();
     if (yazıldı)
         return;
-    throw ÇalışmaHatası(DosyaErişimHatası,
+    throw ÇalışmaHatası(ÇalışmaHataNo::DosyaErişimi,
                         QStringLiteral("Belge geçici klasöre yazılamadı: %1")
                             .arg(klasör_.isValid() ? dosya.errorString() : klasör_.errorString()));
 }
@@ -117,7 +112,7 @@ void Aktarım::Başlat(const QString& program)
     süreç_->start(program, {QStringLiteral("--writer"), QStringLiteral("-n"), yol()});
     if (!süreç_->waitForStarted())
         throw ÇalışmaHatası(
-            NesneOluşmadı,
+            ÇalışmaHataNo::NesneOluşmadı,
             QStringLiteral("Kelime işlemci başlatılamadı: %1 (%2)").arg(program, süreç_->errorString()));
 }
 
@@ -136,7 +131,7 @@ void Aktarım::Bekle()
     }
     if (!bitti() || (süreç_->exitStatus() == QProcess::NormalExit && süreç_->exitCode() == 0))
         return;
-    throw ÇalışmaHatası(OtomasyonHatası,
+    throw ÇalışmaHatası(ÇalışmaHataNo::Otomasyon,
                         süreç_->exitStatus() == QProcess::NormalExit
                             ? QStringLiteral("Kelime işlemci belgeyi göstermeden kapandı. Çıkış durumu: %1")
                                   .arg(süreç_->exitCode())

@@ -1,4 +1,4 @@
-#include "app/TekÖrnek.h"
+#include "system/TekÖrnek.h"
 
 #include <QCryptographicHash>
 #include <QFile>

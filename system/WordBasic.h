@@ -4,13 +4,14 @@
 #include <QByteArray>
 #include <QString>
 
-#include <functional>
-
 /// The object "Word.Basic". Collects a document and hands it over when told to show itself.
 class WordBasic
 {
 public:
-    /// @throw ÇalışmaHatası 429 there is no word processor that could be started
+    /// Whether there is a word processor.
+    static bool Kurulu();
+
+    /// @throw ÇalışmaHatası NesneOluşmadı: there is no word processor that could be started
     WordBasic();
 
     /// Begins a new, empty document.
@@ -29,7 +30,3 @@ private:
     QString metin_;
     QByteArray rtf_; // instead of the text when not empty
 };
-
-/// Hands a document to the word processor; tells the user when there is none, or why it did not start.
-/// @param doldur fills the new document
-void WordeAktar(const std::function<void(WordBasic&)>& doldur);

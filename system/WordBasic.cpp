@@ -1,22 +1,16 @@
-#include "app/WordBasic.h"
+#include "system/WordBasic.h"
 
-#include "app/BelgeAktarımı.h"
-#include "app/HataPolitikaları.h"
-#include "app/Metinler.h"
-#include "app/OrtakApilerModülü.h"
-#include "app/İletiKutusu.h"
 #include "document/RtfBelgesi.h"
+#include "system/BelgeAktarımı.h"
+#include "system/OrtakApilerModülü.h"
+#include "system/ÇalışmaHatası.h"
 
 #include <QClipboard>
-#include <QCursor>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QScopeGuard>
 #include <QStandardPaths>
 
 namespace {
-
-constexpr int NesneOluşmadı = 429; // the customary number
 
 QString kuruluProgram()
 {
@@ -25,10 +19,16 @@ QString kuruluProgram()
 
 } // namespace
 
+bool WordBasic::Kurulu()
+{
+    return !kuruluProgram().isEmpty();
+}
+
 WordBasic::WordBasic() : program_(QStandardPaths::findExecutable(kuruluProgram()))
 {
     if (program_.isEmpty())
-        throw ÇalışmaHatası(NesneOluşmadı, QStringLiteral("Word.Basic nesnesi oluşturulamadı."));
+        throw ÇalışmaHatası(ÇalışmaHataNo::NesneOluşmadı,
+                            QStringLiteral("Word.Basic nesnesi oluşturulamadı."));
 }
 
 void WordBasic::FileNew()
@@ -62,22 +62,4 @@ void WordBasic::EditPaste()
 void WordBasic::AppShow()
 {
     BelgeAktar(program_, rtf_.isEmpty() ? RtfBelgesi(metin_) : rtf_);
-}
-
-void WordeAktar(const std::function<void(WordBasic&)>& doldur)
-{
-    if (kuruluProgram().isEmpty()) {
-        İletiGöster(Metin(230), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
-        return;
-    }
-    try {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        const auto imleç = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-        WordBasic word;
-        word.FileNew();
-        doldur(word);
-        word.AppShow();
-    } catch (...) {
-        İletiGöster(HataMetni(235, ŞimdikiHata()), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
-    }
 }

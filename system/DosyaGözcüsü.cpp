@@ -1,4 +1,4 @@
-#include "app/DosyaGözcüsü.h"
+#include "system/DosyaGözcüsü.h"
 
 #include <QFile>
 
