@@ -10,16 +10,6 @@
 /// The exception being handled, as an error that can be told; to be called inside a catch block only.
 Hata ŞimdikiHata();
 
-/// What users are told of an error: the text with this number, then the error's number and description, each
-/// a paragraph.
-QString HataMetni(int metin, const Hata& hata);
-
-/// Shows the error with its number and description, and ends the program. Does not return.
-[[noreturn]] void HatayıBildirVeBit(const Hata& hata);
-
-/// Lets go of the library and ends the process at once; open windows vanish with it.
-[[noreturn]] void ProgramıBitir(int durum);
-
 /// Writes the exception being handled, which its handler passes over, to the log.
 /// @param yer in the handler
 void HatayıGünlüğeYaz(const std::source_location& yer);
@@ -48,13 +38,3 @@ template<class... Adımlar> struct AdımAdım
     }
 };
 template<class... Adımlar> AdımAdım(Adımlar&&...) -> AdımAdım<Adımlar...>;
-
-/// Runs the body; the first error is reported and ends the program.
-template<class Gövde> decltype(auto) HatadaÇık(Gövde&& gövde)
-{
-    try {
-        return std::forward<Gövde>(gövde)();
-    } catch (...) {
-        HatayıBildirVeBit(ŞimdikiHata());
-    }
-}

@@ -1,25 +1,13 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 
-#include "store/KitaplıkYapısı.h"
-#include "store/MakaleKitaplığı.h"
-
-#include <cstdio>
-
-namespace {
-
-const QString DizinOnarıldıMetni =
-    QStringLiteral("Bir dizin bozuktu; tablodan yeniden yapıldı. Makaleler tamam.");
-
-} // namespace
-
 QString AnaPencereBaşlığı;
 QString AyarUygulamaAdı;
 QString ProgramKlasörü;
 bool NTPlatformu = false;
 
-std::optional<DBEngine> Motor;
-std::optional<Workspace> ÇalışmaAlanı;
-std::optional<Database> Veritabanı;
+Oturum AçıkOturum;
+std::optional<Workspace>& ÇalışmaAlanı = AçıkOturum.ÇalışmaAlanı;
+std::optional<Database>& Veritabanı = AçıkOturum.Veritabanı;
 
 QString DeğiştirilenYazarAdı;
 QString DeğiştirilenMakaleBaşlığı;
@@ -29,26 +17,6 @@ qint16 YazıBoyutuSırası = 2;
 qint16 ZeminRengiSırası = 0;
 
 bool YazdırmaİptalEdildi = false;
-
-void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir)
-{
-    Motor.emplace(bildir);
-    Motor->SystemDB(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu));
-    ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
-    if (VeritabanınıSıkıştır(*Motor, ProgramKlasörü, bildir) != YapıDurumu::Sağlam)
-        std::fprintf(stderr, "belgenar: Makale.mde: %s\n", qUtf8Printable(DizinOnarıldıMetni));
-    KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
-    ÇalışmaAlanı->Close();
-    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
-    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, ProgramKlasörü);
-}
-
-void KitaplığıBırak()
-{
-    Veritabanı.reset();
-    ÇalışmaAlanı.reset();
-    Motor.reset();
-}
 
 QStringList SütunuOku(const QString& sorgu, QStringView sütun)
 {

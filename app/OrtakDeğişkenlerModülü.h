@@ -1,7 +1,7 @@
 // What all windows share. Set during start-up unless said otherwise.
 #pragma once
 
-#include "store/DBEngine.h"
+#include "app/Oturum.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,18 +13,10 @@ extern QString AyarUygulamaAdı;   ///< application name under which the setting
 extern QString ProgramKlasörü;    ///< folder of the executable and the library, with a separator at its end
 extern bool NTPlatformu;          ///< what the system said of itself
 
-/// The library; open from start-up to the exit sequence. Released in this order: database, workspace,
-/// engine (which holds the library's lock).
-extern std::optional<DBEngine> Motor;
-extern std::optional<Workspace> ÇalışmaAlanı;
-extern std::optional<Database> Veritabanı;
-
-/// Opens the library in ProgramKlasörü into these three: takes its lock, compacts it, makes sure of the
-/// user account. ÇalışmaAlanı is the owner's until then. Throws what any of the steps throws.
-/// @param bildir called during long work, so that windows can be repainted
-void KitaplığıAç(const DBEngine::İlerlemeBildirimi& bildir = {});
-/// Lets go of the library and its lock.
-void KitaplığıBırak();
+/// The library; open from start-up to the exit sequence. The two below are its workspace and its database.
+extern Oturum AçıkOturum;
+extern std::optional<Workspace>& ÇalışmaAlanı;
+extern std::optional<Database>& Veritabanı;
 
 /// One column of all rows of a query.
 QStringList SütunuOku(const QString& sorgu, QStringView sütun);

@@ -1,6 +1,6 @@
 #include "app/WordAktarımı.h"
 
-#include "app/HataPolitikaları.h"
+#include "app/HataBildirimi.h"
 #include "app/Metinler.h"
 #include "app/İletiKutusu.h"
 

@@ -46,14 +46,14 @@ void AçılışıÖlç(const KapalıOrtam& ortam)
 {
     const bool büyük = ortam.Kitaplık.MakaleSayısı() >= AmaçlıMakaleSayısı;
     const QString kopya = ProgramKlasörü + QStringLiteral("karşılaştırma");
-    Ölçüm ölçüm{QStringLiteral("Sıkıştırarak açma"), [] { KitaplığıAç(); },
+    Ölçüm ölçüm{QStringLiteral("Sıkıştırarak açma"), [] { AçıkOturum.Aç(ProgramKlasörü); },
                 QStringLiteral("dosyayı kopyalayıp diske yazma"),
-                [&kopya] { kopyala(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::Veritabanı), kopya); }, 5};
+                [&kopya] { kopyala(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Veritabanı), kopya); }, 5};
     if (büyük)
         ölçüm.Hedef = Amaç{Amaç::Tür::Oran, OranAmacı};
-    ölçüm.İşHazırlığı = &KitaplığıBırak;
+    ölçüm.İşHazırlığı = [] { AçıkOturum.Bırak(); };
     ölçüm.TabanHazırlığı = [&kopya] { QFile::remove(kopya); };
     ortam.Çizelge.Satır(ölçüm);
-    KitaplığıBırak();
+    AçıkOturum.Bırak();
     QFile::remove(kopya);
 }

@@ -35,7 +35,7 @@ class ÇıplakOkuma
 {
 public:
     explicit ÇıplakOkuma(const QString& klasör)
-        : grup_(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu), AçmaKipi::Oku), klasör_(klasör)
+        : grup_(KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu), AçmaKipi::Oku), klasör_(klasör)
     {
     }
     /// Nothing of the file is in memory any more.

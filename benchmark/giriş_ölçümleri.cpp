@@ -72,11 +72,11 @@ qint64 değerleriOku(const QString& sql, QStringView sütun)
     return kayıtlar.RecordCount();
 }
 
-ÖrnekMakale yeniMakale(int sıra)
+Makale yeniMakale(int sıra)
 {
     static const QString metin = MetinÜreteci(5).Metin(MetinBoyu);
-    return {Yazar, QStringLiteral("ÖLÇÜM MAKALESİ %1").arg(sıra), QStringLiteral("Ankara"),
-            QStringLiteral("Şubat 2003"), metin};
+    return {Yazar, QStringLiteral("ÖLÇÜM MAKALESİ %1").arg(sıra), metin, QStringLiteral("Ankara"),
+            QStringLiteral("Şubat 2003")};
 }
 
 qint64 eklenenSayısı()

@@ -30,14 +30,14 @@ constexpr int UzunlarınYanındakiler = 100;
 template<class Ölçümler>
 void penceredeÖlç(const ÖrnekKitaplık& kitaplık, Tablo& tablo, const Ölçümler& ölçümler)
 {
-    KitaplığıAç();
+    AçıkOturum.Aç(ProgramKlasörü);
     {
         AnaForm pencere;
         pencere.Göster();
         for (const auto ölç : ölçümler)
             ölç({kitaplık, tablo, pencere});
     }
-    KitaplığıBırak();
+    AçıkOturum.Bırak();
 }
 
 /// The offscreen platform complains about what it can't do with each window.

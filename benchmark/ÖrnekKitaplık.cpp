@@ -104,22 +104,20 @@ QString MetinÜreteci::YazarAdı(int sıra) const
 
 void ÖrnekKitaplık::doldur() const
 {
-    DBEngine motor;
-    motor.SystemDB(KitaplıkYolu(klasör_, KitaplıkDosyaları::ÇalışmaGrubu));
-    const Workspace alan = SahipÇalışmaAlanı(motor);
-    const Database veritabanı = KitaplıkAç(alan, klasör_);
-    Recordset kayıtlar = veritabanı.OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler]"));
-    const auto ekle = [&kayıtlar](const ÖrnekMakale& makale) { KaydıEkle(kayıtlar, makale); };
-    veritabanı.TekİşlemdeYap([&] {
+    Oturum oturum;
+    oturum.SahipOlarakAç(klasör_, Oturum::Erişim::Yazma);
+    Recordset kayıtlar = oturum.Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler]"));
+    const auto ekle = [&kayıtlar](const Makale& makale) { KaydıEkle(kayıtlar, makale); };
+    oturum.Veritabanı->TekİşlemdeYap([&] {
         MetinÜreteci üreteç(Tohum);
         for (int i = 0; i < makaleSayısı_; ++i)
             ekle(makale(üreteç, i));
         for (qsizetype i = 0; i < uzunluklar_.size(); ++i)
-            ekle({UzunYazan.toString(), UzunBaşlık(i), {}, {}, üreteç.Metin(uzunluklar_[i])});
+            ekle({UzunYazan.toString(), UzunBaşlık(i), üreteç.Metin(uzunluklar_[i])});
     });
 }
 
-ÖrnekMakale ÖrnekKitaplık::makale(MetinÜreteci& üreteç, int sıra) const
+Makale ÖrnekKitaplık::makale(MetinÜreteci& üreteç, int sıra) const
 {
     static const QStringList yerler = {QStringLiteral("Ankara"), QStringLiteral("İstanbul"),
                                        QStringLiteral("İzmir"), QStringLiteral("Diyarbakır"), QString()};
@@ -127,7 +125,7 @@ void ÖrnekKitaplık::doldur() const
                                       QStringLiteral("Ağustos"), QStringLiteral("Kasım")};
     const bool çokYazan = sıra % (makaleSayısı_ / çokYazanınMakaleleri_) == 0;
     const int yazarlar = std::max(1, makaleSayısı_ / YazarBaşınaMakale);
-    ÖrnekMakale makale;
+    Makale makale;
     makale.Yazar = çokYazan ? ÇokYazan.toString() : üreteç.YazarAdı(üreteç.Sayı(yazarlar));
     makale.Başlık = üreteç.Başlık(sıra);
     makale.Yer = yerler[üreteç.Sayı(static_cast<int>(yerler.size()))];
@@ -137,13 +135,9 @@ void ÖrnekKitaplık::doldur() const
     return makale;
 }
 
-void KaydıEkle(Recordset& kayıtlar, const ÖrnekMakale& makale)
+void KaydıEkle(Recordset& kayıtlar, const Makale& makale)
 {
     kayıtlar.AddNew();
-    kayıtlar.Fields(u"YazarAdi").Value(makale.Yazar);
-    kayıtlar.Fields(u"MakaleBasligi").Value(makale.Başlık);
-    kayıtlar.Fields(u"YayimYeri").Value(makale.Yer);
-    kayıtlar.Fields(u"YayimTarihi").Value(makale.Tarih);
-    kayıtlar.Fields(u"MakaleMetni").Value(makale.Metin);
+    makale.Yaz(kayıtlar);
     kayıtlar.Update();
 }

@@ -1,18 +1,13 @@
 // Libraries to measure with: made-up articles that are the same in every run.
 #pragma once
 
+#include "store/Makale.h"
 #include "store/Recordset.h"
 
 #include <QList>
 #include <QRandomGenerator>
 #include <QString>
 #include <QStringList>
-
-/// One article, its five columns.
-struct ÖrnekMakale
-{
-    QString Yazar, Başlık, Yer, Tarih, Metin;
-};
 
 /// Makes words, sentences and names that look Turkish: vowel harmony, all letters of the alphabet, few
 /// words often and many seldom.
@@ -63,7 +58,7 @@ public:
 
 private:
     void doldur() const;
-    ÖrnekMakale makale(MetinÜreteci& üreteç, int sıra) const;
+    Makale makale(MetinÜreteci& üreteç, int sıra) const;
 
     QString klasör_;
     int makaleSayısı_;
@@ -72,4 +67,4 @@ private:
 };
 
 /// Appends an article to the rows of the whole table.
-void KaydıEkle(Recordset& kayıtlar, const ÖrnekMakale& makale);
+void KaydıEkle(Recordset& kayıtlar, const Makale& makale);

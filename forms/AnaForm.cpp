@@ -310,9 +310,9 @@ void AnaForm::MakaleListesi_Click()
             MakaleMetniKutusu.Text({});
             return;
         }
-        makaleyiGöster(kayıtlar.Fields(u"MakaleMetni").Value());
+        makaleyiGöster(Makale::MetniniOku(kayıtlar));
         if (sonuçGörünümü()) {
-            yazarıGöster(kayıtlar.Fields(u"YazarAdi").Value());
+            yazarıGöster(Makale::KünyesiniOku(kayıtlar).Yazar);
             sözcüğüİşaretle();
         }
     });

@@ -1,15 +1,12 @@
 // How the main window closes and the program ends.
 #include "forms/AnaForm.h"
 
-#include "app/Ayarlar.h"
 #include "app/Görünüm.h"
-#include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/PencereYeri.h"
 #include "app/İletiKutusu.h"
 #include "forms/EkleFormu.h"
-#include "store/MakaleKitaplığı.h"
 #include "system/EkranÖlçüsü.h"
 
 #include <QCloseEvent>
@@ -65,28 +62,12 @@ void AnaForm::oturumuBitir()
     bitti_ = true;
     ++doldurma_; // a filling under way must not go on
     Sınırla.stop();
-    AdımAdım(
-        [] {
-            Veritabanı.reset();
-            ÇalışmaAlanı.reset();
-        },
-        [] {
-            Workspace sahip = SahipÇalışmaAlanı(Motor.value());
-            KullanıcıHesabınıSil(sahip);
-            sahip.Close();
-        },
-        [this] {
-            if (pencereDurumu() == PencereDurumu::Olağan) {
-                const QPoint yer = ÇerçeveliYer(*this).topLeft();
-                AyarYaz(Ayarlar::Sol, Twip(yer.x()));
-                AyarYaz(Ayarlar::Üst, Twip(yer.y()));
-            }
-        },
-        [this] {
-            // The first author is where a start without this setting begins, too.
-            if (YazarListesi.ListIndex() > 0)
-                AyarYaz(Ayarlar::SonYazar, YazarListesi.ListIndex());
-        },
-        [this] { AyarYaz(Ayarlar::TamEkran, static_cast<int>(pencereDurumu())); });
+    const PencereDurumu durum = pencereDurumu();
+    PencereSonu son{{}, YazarListesi.ListIndex(), static_cast<int>(durum)};
+    if (durum == PencereDurumu::Olağan) {
+        const QPoint yer = ÇerçeveliYer(*this).topLeft();
+        son.Yer = QPoint(Twip(yer.x()), Twip(yer.y()));
+    }
+    AçıkOturum.Kapat(son);
     QCoreApplication::exit(0);
 }

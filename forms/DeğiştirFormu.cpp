@@ -39,11 +39,12 @@ void DeğiştirFormu::Form_Load()
     İlkHatadaBit([this] {
         yazarlarıYükle(QStringLiteral("SELECT DISTINCT YazarAdi FROM Makaleler"));
         Recordset kayıtlar = seçiliMakale();
-        YazarAdıListesi.Text(kayıtlar.Fields(u"YazarAdi").Value());
-        sığdır(MakaleBaşlığıKutusu, kayıtlar.Fields(u"MakaleBasligi").Value());
-        sığdır(YayımYeriKutusu, kayıtlar.Fields(u"YayimYeri").Value());
-        sığdır(YayımTarihiKutusu, kayıtlar.Fields(u"YayimTarihi").Value()); // "" where there is no date
-        MakaleMetniKutusu.Text(kayıtlar.Fields(u"MakaleMetni").Value());
+        const Makale makale = Makale::KünyesiniOku(kayıtlar);
+        YazarAdıListesi.Text(makale.Yazar);
+        sığdır(MakaleBaşlığıKutusu, makale.Başlık);
+        sığdır(YayımYeriKutusu, makale.Yer);
+        sığdır(YayımTarihiKutusu, makale.Tarih); // "" where there is no date
+        MakaleMetniKutusu.Text(Makale::MetniniOku(kayıtlar));
     });
 }
 
@@ -59,7 +60,7 @@ void DeğiştirFormu::KaydetDüğmesi_Click()
         return;
     Recordset kayıtlar = seçiliMakale();
     kayıtlar.Edit();
-    alanlarıYaz(kayıtlar);
+    girilen().Yaz(kayıtlar);
     kayıtlar.Update();
     kayıtlar.Close();
     anaForm_.YazarListesiYükle();

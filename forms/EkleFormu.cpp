@@ -73,7 +73,7 @@ void EkleFormu::kaydet()
     düğmeleriKilitle();
     if (!eklenen_) // it could not be opened when the entry began
         yeniKayıt();
-    alanlarıYaz(*eklenen_);
+    girilen().Yaz(*eklenen_);
     eklenen_->Update();
     eklenen_.reset();
     anaForm_.YazarListesiYükle();

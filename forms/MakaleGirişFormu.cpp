@@ -205,13 +205,13 @@ bool MakaleGirişFormu::alanlarTamam()
     return true;
 }
 
-void MakaleGirişFormu::alanlarıYaz(Recordset& kayıtlar)
+Makale MakaleGirişFormu::girilen() const
 {
-    kayıtlar.Fields(u"YazarAdi").Value(YazarAdıListesi.Text());
-    kayıtlar.Fields(u"MakaleBasligi").Value(MakaleBaşlığıKutusu.Text());
-    kayıtlar.Fields(u"YayimYeri").Value(YayımYeriKutusu.Text());
-    kayıtlar.Fields(u"YayimTarihi").Value(YayımTarihiKutusu.Text());
-    kayıtlar.Fields(u"MakaleMetni").Value(MakaleMetniKutusu.Text());
+    return {.Yazar = YazarAdıListesi.Text(),
+            .Başlık = MakaleBaşlığıKutusu.Text(),
+            .Metin = MakaleMetniKutusu.Text(),
+            .Yer = YayımYeriKutusu.Text(),
+            .Tarih = YayımTarihiKutusu.Text()};
 }
 
 // What holds no text (a picture) leaves the article text as it is.

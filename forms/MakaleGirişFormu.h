@@ -7,6 +7,7 @@
 #include "controls/MetinKutusu.h"
 #include "controls/OdakEtiketi.h"
 #include "controls/ZenginMetinKutusu.h"
+#include "store/Makale.h"
 #include "store/Recordset.h"
 
 #include <QDialog>
@@ -40,8 +41,8 @@ protected:
     /// Checks the fields in their order; the first that is not filled as it must be is told and gets the
     /// focus.
     bool alanlarTamam();
-    /// Sets the five fields of the record that is being added or changed.
-    void alanlarıYaz(Recordset& kayıtlar);
+    /// What the five fields hold.
+    Makale girilen() const;
     /// A file has been loaded into the article text.
     virtual void dosyaYüklendi() {}
     /// The five fields in the order of their labels.

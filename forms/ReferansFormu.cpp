@@ -69,21 +69,20 @@ void ReferansFormu::Form_Load(const QString& başlık)
 {
     Recordset kayıtlar = Veritabanı->OpenRecordset(
         QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]= '") + başlık + u'\'');
-    ReferansBilgisiKutusu.Text(Referans(kayıtlar.Fields(u"YazarAdi").Value(), başlık,
-                                        kayıtlar.Fields(u"YayimYeri").Value(),
-                                        kayıtlar.Fields(u"YayimTarihi").Value()));
+    Makale makale = Makale::KünyesiniOku(kayıtlar);
+    makale.Başlık = başlık;
+    ReferansBilgisiKutusu.Text(Referans(makale));
 }
 
-QString ReferansFormu::Referans(const QString& yazar, const QString& başlık, const QString& yer,
-                                const QString& tarih)
+QString ReferansFormu::Referans(const Makale& makale)
 {
-    const qsizetype ayraç = yazar.lastIndexOf(u' ');
-    const QString soyadı = TürkçeÖzelAd(yazar.mid(ayraç + 1));
-    const QString adlar = ayraç < 0 ? QString() : TürkçeÖzelAd(yazar.left(ayraç)) + u' ';
-    QString satır =
-        adlar + soyadı + QStringLiteral(", \"") + TürkçeÖzelAd(başlık) + QStringLiteral("\", ") + yer;
-    if (!tarih.isEmpty())
-        satır += QStringLiteral(", ") + tarih;
+    const qsizetype ayraç = makale.Yazar.lastIndexOf(u' ');
+    const QString soyadı = TürkçeÖzelAd(makale.Yazar.mid(ayraç + 1));
+    const QString adlar = ayraç < 0 ? QString() : TürkçeÖzelAd(makale.Yazar.left(ayraç)) + u' ';
+    QString satır = adlar + soyadı + QStringLiteral(", \"") + TürkçeÖzelAd(makale.Başlık) +
+                    QStringLiteral("\", ") + makale.Yer;
+    if (!makale.Tarih.isEmpty())
+        satır += QStringLiteral(", ") + makale.Tarih;
     return satır;
 }
 

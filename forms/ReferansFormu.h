@@ -3,6 +3,7 @@
 
 #include "controls/Düğme.h"
 #include "controls/ZenginMetinKutusu.h"
+#include "store/Makale.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -16,8 +17,7 @@ public:
 
     /// "Given Names Surname, "Title", Place, Date". The surname is the last word of the author's name; a
     /// name of one word stands alone. Without a date the line ends with the place.
-    static QString Referans(const QString& yazar, const QString& başlık, const QString& yer,
-                            const QString& tarih);
+    static QString Referans(const Makale& makale);
 
 private:
     void kontrolleriKur();

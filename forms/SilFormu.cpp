@@ -134,10 +134,14 @@ void SilFormu::MakaleListesi_Click()
         Recordset kayıtlar = MakaleyiAç(MakaleListesi.Text());
         if (kayıtlar.Bof() && kayıtlar.Eof())
             return;
-        AdımAdım([&] { YazarAdıKutusu.Text(kayıtlar.Fields(u"YazarAdi").Value()); },
-                 [&] { YayımYeriKutusu.Text(kayıtlar.Fields(u"YayimYeri").Value()); },
-                 [&] { YayımTarihiKutusu.Text(kayıtlar.Fields(u"YayimTarihi").Value()); },
-                 [&] { MakaleMetniKutusu.Text(kayıtlar.Fields(u"MakaleMetni").Value()); });
+        AdımAdım(
+            [&] {
+                const Makale makale = Makale::KünyesiniOku(kayıtlar);
+                YazarAdıKutusu.Text(makale.Yazar);
+                YayımYeriKutusu.Text(makale.Yer);
+                YayımTarihiKutusu.Text(makale.Tarih);
+            },
+            [&] { MakaleMetniKutusu.Text(Makale::MetniniOku(kayıtlar)); });
     });
 }
 

@@ -2,7 +2,7 @@
 
 #include "app/Dil.h"
 #include "app/Görünüm.h"
-#include "app/HataPolitikaları.h"
+#include "app/HataBildirimi.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/PencereYeri.h"
@@ -10,6 +10,7 @@
 #include "app/İletiKutusu.h"
 #include "forms/AnaForm.h"
 #include "forms/KarşılamaFormu.h"
+#include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
 #include "store/VeritabanıHatası.h"
 #include "system/BelgeAktarımı.h"
@@ -21,11 +22,15 @@
 #include <QScopeGuard>
 #include <QSessionManager>
 
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
 
 namespace {
+
+const QString DizinOnarıldıMetni =
+    QStringLiteral("Bir dizin bozuktu; tablodan yeniden yapıldı. Makaleler tamam.");
 
 [[noreturn]] void reddet(int metin)
 {
@@ -52,10 +57,16 @@ void yolGeçerliOlmalı()
 void dosyalarıDenetle()
 {
     yolGeçerliOlmalı();
-    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::Veritabanı)))
+    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Veritabanı)))
         reddet(40);
-    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, KitaplıkDosyaları::ÇalışmaGrubu)))
+    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::ÇalışmaGrubu)))
         reddet(45);
+}
+
+void kitaplığıAç()
+{
+    if (AçıkOturum.Aç(ProgramKlasörü, &PencereleriBoya) != YapıDurumu::Sağlam)
+        std::fprintf(stderr, "belgenar: Makale.mde: %s\n", qUtf8Printable(DizinOnarıldıMetni));
 }
 
 /// What a second start brings forward while there is no main window: the box that waits for the user.
@@ -103,7 +114,7 @@ int SubMain(QApplication& uygulama)
         PencereleriBoya();
         sürümüDenetle();
         dosyalarıDenetle();
-        KitaplığıAç(&PencereleriBoya);
+        kitaplığıAç();
         EskiBelgeleriSil();
 
         AnaForm form;

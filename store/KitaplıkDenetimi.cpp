@@ -70,7 +70,7 @@ private:
 
     YapıDurumu yapı(Bağlantı& kitaplık);
     void satırlar(Bağlantı& kitaplık, YapıDurumu durum);
-    std::optional<DenetimBulgusu> kusur(const std::optional<MakaleDeğerleri>& makale);
+    std::optional<DenetimBulgusu> kusur(const std::optional<Makale>& makale);
 
     KlasörKilidi kilit_;
     QString klasör_;
@@ -121,7 +121,7 @@ Denetçi::Kaynak Denetçi::kaynak(QStringView dosya)
 
 void Denetçi::ÇalışmaGrubunuDenetle()
 {
-    const QStringView dosya = KitaplıkDosyaları::ÇalışmaGrubu;
+    const QStringView dosya = DosyaAdları::ÇalışmaGrubu;
     const Kaynak yer = kaynak(dosya);
     dene(dosya, [&] {
         auto grup = std::make_unique<ÇalışmaGrubu>(KitaplıkYolu(yer.klasör, dosya), yer.kip);
@@ -142,7 +142,7 @@ void Denetçi::ÇalışmaGrubunuDenetle()
 
 void Denetçi::VeritabanınıDenetle()
 {
-    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Veritabanı;
     const Kaynak yer = kaynak(dosya);
     dene(dosya, [&] {
         const auto kitaplık = KitaplıkBağlantısı(yer.klasör, yer.kip, *grup_);
@@ -154,7 +154,7 @@ void Denetçi::VeritabanınıDenetle()
 
 YapıDurumu Denetçi::yapı(Bağlantı& kitaplık)
 {
-    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Veritabanı;
     kitaplık.İlerlemeAta([this] { bildir_(0, 0); });
     const YapıDurumu durum = GenelDurum(kitaplık, DenetimDerinliği::Dizinler);
     kitaplık.İlerlemeAta({});
@@ -172,7 +172,7 @@ void Denetçi::satırlar(Bağlantı& kitaplık, YapıDurumu durum)
     MakaleOkuyucu okuyucu(kitaplık, durum);
     sonuç_.MakaleSayısı = qint64(okuyucu.Künyeler().size());
 
-    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Veritabanı;
     qint64 okunan = 0, kusurlu = 0;
     for (const MakaleKünyesi& künye : okuyucu.Künyeler()) {
         std::optional<DenetimBulgusu> bulunan = kusur(okuyucu.Oku(künye));
@@ -188,15 +188,15 @@ void Denetçi::satırlar(Bağlantı& kitaplık, YapıDurumu durum)
 }
 
 /// @param makale nothing where it can't be read whole
-std::optional<DenetimBulgusu> Denetçi::kusur(const std::optional<MakaleDeğerleri>& makale)
+std::optional<DenetimBulgusu> Denetçi::kusur(const std::optional<Makale>& makale)
 {
-    const QStringView dosya = KitaplıkDosyaları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Veritabanı;
     if (!makale)
         return bulgu(dosya, VeritabanıHatası(HataNo::DosyaBozuk));
     bool kesmeİşaretli = false;
-    for (std::size_t i = 0; i < makale->size(); ++i) {
+    for (std::size_t i = 0; i < MakaleSütunları.size(); ++i) {
         const auto sütun = static_cast<MakaleSütunu>(i);
-        const QString& değer = (*makale)[i];
+        const QString& değer = (*makale).*Tanım(sütun).değer;
         if (const QString sorun = DeğerSorunu(değer, sütun); !sorun.isEmpty())
             return bulgu(dosya, HataNo::DeğerGeçersiz, sorun);
         kesmeİşaretli |= adSütunu(sütun) && değer.contains(u'\'');
@@ -217,7 +217,7 @@ DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi
 
 QString DeğerSorunu(const QString& değer, MakaleSütunu sütun)
 {
-    const auto [ad, enUzun] = Tanım(sütun);
+    const auto [ad, enUzun, yer] = Tanım(sütun);
     if (değer.contains(QChar(u'\0')))
         return QStringLiteral("%1 alanında kullanılamayan bir karakter (NUL) var.").arg(ad);
     if (!değer.isValidUtf16())

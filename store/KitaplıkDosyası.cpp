@@ -135,7 +135,7 @@ GeçiciDosya::~GeçiciDosya()
         QFile::remove(yol_);
 }
 
-void KitaplıkOluştur(const QString& yol, const QString& parola)
+void BoşDosyaOluştur(const QString& yol, const QString& parola)
 {
     Bağlantı bağlantı(yol, parolaAnahtarı(parola), AçmaKipi::Oluştur);
     İşlem işlem(bağlantı);

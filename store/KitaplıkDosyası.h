@@ -26,7 +26,7 @@ private:
 };
 
 /// Creates an empty library. Throws 3204 when the file exists.
-void KitaplıkOluştur(const QString& yol, const QString& parola);
+void BoşDosyaOluştur(const QString& yol, const QString& parola);
 
 /// Opens an existing library and makes sure that it is one. The workgroup file tells a wrong password
 /// (3031) from a damaged file (3049, 3901). Throws 3343 for another database, 3041 for a later version.

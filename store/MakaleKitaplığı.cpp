@@ -41,8 +41,8 @@ QString KitaplıkYolu(const QString& klasör, QStringView dosya)
 
 void KitaplıkKur(const QString& klasör)
 {
-    const QString kitaplık = KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı);
-    const QString grup = KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu);
+    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Veritabanı);
+    const QString grup = KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu);
     const QString yeniKitaplık = kitaplık + YeniEki, yeniGrup = grup + YeniEki;
     const bool yarımdı = QFileInfo::exists(yeniKitaplık);
     if (dolu(kitaplık))
@@ -50,7 +50,7 @@ void KitaplıkKur(const QString& klasör)
     if (dolu(grup) && !yarımdı)
         throw VeritabanıHatası(HataNo::DosyaVar, grup);
     // From these two a library that has lost its file can still be brought back.
-    const QString kopya = KitaplıkYolu(klasör, KitaplıkDosyaları::Kopya);
+    const QString kopya = KitaplıkYolu(klasör, DosyaAdları::Kopya);
     if (dolu(kopya))
         throw VeritabanıHatası(HataNo::DosyaVar, kopya);
     if (QFileInfo(kitaplık + GünlükEki).size() > BoşGünlükBoyu)
@@ -60,7 +60,7 @@ void KitaplıkKur(const QString& klasör)
                                yeniKitaplık + GünlükEki, yeniGrup + GünlükEki})
         DosyayıSil(yol);
     GeçiciDosya yarımKitaplık(yeniKitaplık), yarımGrup(yeniGrup);
-    KitaplıkOluştur(yeniKitaplık, KitaplıkParolası);
+    BoşDosyaOluştur(yeniKitaplık, KitaplıkParolası);
     User sahip(SahipAdı);
     sahip.Password(SahipParolası);
     ÇalışmaGrubu::Oluştur(yeniGrup, sahip, KitaplıkParolası);
@@ -83,10 +83,10 @@ Workspace KullanıcıÇalışmaAlanı(DBEngine& motor)
 YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
                                 const DBEngine::İlerlemeBildirimi& bildir)
 {
-    const QString kitaplık = KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı);
-    const QString kopya = KitaplıkYolu(klasör, KitaplıkDosyaları::Kopya);
+    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Veritabanı);
+    const QString kopya = KitaplıkYolu(klasör, DosyaAdları::Kopya);
     const QString yeni = kopya + u'~';
-    YalnızSahibineAç(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
+    YalnızSahibineAç(KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu));
     const auto sıkıştır = [&] {
         DosyayıSil(yeni);
         return motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);
@@ -126,26 +126,24 @@ void KullanıcıHesabınıSil(const Workspace& sahip)
 
 Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
 {
-    return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), false, false,
-                                     AçmaMetni);
+    return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, DosyaAdları::Veritabanı), false, false, AçmaMetni);
 }
 
-Database KitaplığıOku(const Workspace& çalışmaAlanı, const QString& klasör)
+Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
 {
     try {
         return KitaplıkAç(çalışmaAlanı, klasör);
     } catch (const VeritabanıHatası& hata) {
         if (hata != HataNo::SaltOkunur)
             throw;
-        return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), false, true,
+        return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, DosyaAdları::Veritabanı), false, true,
                                          AçmaMetni);
     }
 }
 
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& klasör, AçmaKipi kip, ÇalışmaGrubu& grup)
 {
-    return KitaplıkBağlantısı(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı), KitaplıkParolası, kip,
-                              grup);
+    return KitaplıkBağlantısı(KitaplıkYolu(klasör, DosyaAdları::Veritabanı), KitaplıkParolası, kip, grup);
 }
 
 std::optional<HataNo> YabancıGrup(ÇalışmaGrubu& grup)

@@ -13,7 +13,7 @@ class ÇalışmaGrubu;
 enum class AçmaKipi;
 
 /// The file set, all in the program folder. No namespace, since moc can't read the name of one.
-struct KitaplıkDosyaları
+struct DosyaAdları
 {
     static constexpr QStringView Veritabanı = u"Makale.mde";
     static constexpr QStringView ÇalışmaGrubu = u"Makale.tps";
@@ -45,7 +45,7 @@ void KullanıcıHesabınıSil(const Workspace& sahip);
 Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
 /// The same for those who only read: a file that can't be written is opened for reading, unless a crash
 /// left a write in it that must be rolled back (3027).
-Database KitaplığıOku(const Workspace& çalışmaAlanı, const QString& klasör);
+Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
 
 /// Used inside store/ only: what can be told of the library without an engine.
 /// The library file's connection; throws as the function that takes a password.

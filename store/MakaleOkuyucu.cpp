@@ -131,19 +131,19 @@ bool önce(const MakaleKünyesi& bir, const MakaleKünyesi& öteki)
     return bir.Kimlik < öteki.Kimlik;
 }
 
-std::optional<MakaleDeğerleri> değerler(Bağlantı& kitaplık, const char* sql, qint64 kimlik)
+std::optional<Makale> makaleyiOku(Bağlantı& kitaplık, const char* sql, qint64 kimlik)
 {
-    std::optional<MakaleDeğerleri> değerler;
+    std::optional<Makale> makale;
     okunduğuKadar([&] {
         Deyim satır(kitaplık, sql);
         if (!satır.Bağla(1, kimlik).Adım())
             return;
-        MakaleDeğerleri okunan;
-        for (std::size_t i = 0; i < okunan.size(); ++i)
-            okunan[i] = Utf8Metni(SağlamDeğer(satır, int(i)));
-        değerler = std::move(okunan);
+        Makale okunan;
+        for (int i = 0; const SütunTanımı& sütun : MakaleSütunları)
+            okunan.*sütun.değer = Utf8Metni(SağlamDeğer(satır, i++));
+        makale = std::move(okunan);
     });
-    return değerler;
+    return makale;
 }
 
 } // namespace
@@ -183,15 +183,15 @@ void MakaleOkuyucu::künyeleriAra()
     }
 }
 
-std::optional<MakaleDeğerleri> MakaleOkuyucu::Oku(const MakaleKünyesi& künye)
+std::optional<Makale> MakaleOkuyucu::Oku(const MakaleKünyesi& künye)
 {
-    if (auto okunan = değerler(kitaplık_, MakaleSql, künye.Kimlik))
+    if (auto okunan = makaleyiOku(kitaplık_, MakaleSql, künye.Kimlik))
         return okunan;
     const auto uyar = [](const QString& ad, const QString& değer) { return ad.isNull() || ad == değer; };
     for (const qint64 sayfa : sayfalar_[künye.Kimlik]) {
         kitaplık_.SayfayıTabloSay(sayfa, {TabloSayfası});
-        const auto okunan = değerler(kitaplık_, SayfadakiMakaleSql, künye.Kimlik);
-        if (okunan && uyar(künye.YazarAdi, (*okunan)[0]) && uyar(künye.MakaleBasligi, (*okunan)[1]))
+        const auto okunan = makaleyiOku(kitaplık_, SayfadakiMakaleSql, künye.Kimlik);
+        if (okunan && uyar(künye.YazarAdi, okunan->Yazar) && uyar(künye.MakaleBasligi, okunan->Başlık))
             return okunan;
     }
     return {};

@@ -37,7 +37,7 @@ public:
     bool BilinmeyenOlabilir() const { return bilinmeyenOlabilir_; }
 
     /// Nothing where the article can't be read whole.
-    std::optional<MakaleDeğerleri> Oku(const MakaleKünyesi& künye);
+    std::optional<Makale> Oku(const MakaleKünyesi& künye);
 
 private:
     void künyeleriAra();

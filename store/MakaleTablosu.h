@@ -1,6 +1,8 @@
 // The library file's table: names, limits and statements that the format fixes.
 #pragma once
 
+#include "store/Makale.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringView>
@@ -21,25 +23,23 @@ struct SütunTanımı
 {
     QStringView ad;
     qsizetype enUzun; ///< UTF-16 units; a longer value is refused
+    QString Makale::*değer;
 };
 
 /// The text stands last, so that a row's short columns are read without it. Its limit keeps the UTF-8
 /// form below what SQLite can hold (1,000,000,000 bytes).
 inline constexpr std::array<SütunTanımı, 5> MakaleSütunları = {{
-    {u"YazarAdi", 1'000},
-    {u"MakaleBasligi", 1'000},
-    {u"YayimYeri", 1'000},
-    {u"YayimTarihi", 1'000},
-    {u"MakaleMetni", 300'000'000},
+    {u"YazarAdi", 1'000, &Makale::Yazar},
+    {u"MakaleBasligi", 1'000, &Makale::Başlık},
+    {u"YayimYeri", 1'000, &Makale::Yer},
+    {u"YayimTarihi", 1'000, &Makale::Tarih},
+    {u"MakaleMetni", 300'000'000, &Makale::Metin},
 }};
 
 constexpr const SütunTanımı& Tanım(MakaleSütunu sütun)
 {
     return MakaleSütunları[static_cast<std::size_t>(sütun)];
 }
-
-/// The columns' values of one article.
-using MakaleDeğerleri = std::array<QString, MakaleSütunları.size()>;
 
 /// Written into the file's header; a file of a higher version is refused.
 inline constexpr int KitaplıkSürümü = 1;

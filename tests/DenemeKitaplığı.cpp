@@ -13,31 +13,12 @@ DenemeKitaplığı::DenemeKitaplığı(const QList<Makale>& makaleler)
     veritabanı.TekİşlemdeYap([&] { Ekle(veritabanı, makaleler); });
 }
 
-Açılış::Açılış(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir) : Motor(bildir)
-{
-    Motor.SystemDB(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
-    const Workspace sahip = SahipÇalışmaAlanı(Motor);
-    Durum = VeritabanınıSıkıştır(Motor, klasör, bildir);
-    KullanıcıHesabınıHazırla(sahip);
-    Alan = KullanıcıÇalışmaAlanı(Motor);
-    Veritabanı = KitaplıkAç(*Alan, klasör);
-}
-
 std::shared_ptr<Bağlantı> DosyaBağlantısı(const QString& klasör, int önbellek)
 {
-    auto bağlantı = std::make_shared<Bağlantı>(KitaplıkYolu(klasör, KitaplıkDosyaları::Veritabanı),
+    auto bağlantı = std::make_shared<Bağlantı>(KitaplıkYolu(klasör, DosyaAdları::Veritabanı),
                                                Anahtar{AnahtarTürü::Parola, "Pelikan"}, AçmaKipi::OkuYaz);
     bağlantı->Çalıştır("PRAGMA cache_size=" + QByteArray::number(önbellek));
     return bağlantı;
-}
-
-void Doldur(Recordset& kayıtlar, const Makale& makale)
-{
-    const std::initializer_list<QString> değerler = {makale.Yazar, makale.Başlık, makale.Yer, makale.Tarih,
-                                                     makale.Metin};
-    for (auto sütun = MakaleSütunları.begin(); const QString& değer : değerler)
-        kayıtlar.Fields((sütun++)->ad).Value(değer);
-    kayıtlar.Update();
 }
 
 void Ekle(const Database& veritabanı, const QList<Makale>& makaleler)
@@ -45,7 +26,8 @@ void Ekle(const Database& veritabanı, const QList<Makale>& makaleler)
     Recordset kayıtlar = veritabanı.OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler]"));
     for (const Makale& makale : makaleler) {
         kayıtlar.AddNew();
-        Doldur(kayıtlar, makale);
+        makale.Yaz(kayıtlar);
+        kayıtlar.Update();
     }
 }
 
@@ -53,10 +35,8 @@ QList<Makale> Makaleler(const Database& veritabanı)
 {
     QList<Makale> makaleler;
     Recordset r = veritabanı.OpenRecordset(QStringLiteral("SELECT * FROM [Makaleler] ORDER BY Kimlik"));
-    const auto değer = [&r](QStringView sütun) { return r.Fields(sütun).Value(); };
     for (; !r.Eof(); r.MoveNext())
-        makaleler.append({değer(u"YazarAdi"), değer(u"MakaleBasligi"), değer(u"MakaleMetni"),
-                          değer(u"YayimYeri"), değer(u"YayimTarihi")});
+        makaleler.append(Makale::Oku(r));
     return makaleler;
 }
 

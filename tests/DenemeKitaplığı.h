@@ -1,20 +1,15 @@
 // What the store's tests share: a temporary program folder with a library in it, and the start sequence.
 #pragma once
 
+#include "app/Oturum.h"
 #include "store/KitaplıkYapısı.h"
+#include "store/Makale.h"
 #include "store/MakaleKitaplığı.h"
 
 #include <QMap>
 #include <QTemporaryDir>
 
 class Bağlantı;
-
-/// One article, its five columns.
-struct Makale
-{
-    QString Yazar, Başlık, Metin, Yer = QStringLiteral("Ankara"), Tarih = QStringLiteral("Şubat 2003");
-    bool operator==(const Makale&) const = default;
-};
 
 /// A program folder of its own with a library; deleted with this object.
 class DenemeKitaplığı
@@ -28,21 +23,19 @@ private:
     QString klasör_ = geçici_.path() + u'/';
 };
 
-/// The whole start sequence, and what stays open after it. Throws what any of the steps throws.
-struct Açılış
+/// The program's session. Throws what any of the steps throws.
+struct Açılış : Oturum
 {
-    explicit Açılış(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir = {});
-    DBEngine Motor;
+    explicit Açılış(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir = {})
+        : Durum(Aç(klasör, bildir))
+    {
+    }
     YapıDurumu Durum; ///< what the compaction found
-    std::optional<Workspace> Alan;
-    std::optional<Database> Veritabanı;
 };
 
 /// The library file alone; SQLite keeps that many pages in memory, or KiB where it is below 0.
 std::shared_ptr<Bağlantı> DosyaBağlantısı(const QString& klasör, int önbellek = -2000);
 
-/// Sets the pending row's columns and writes it.
-void Doldur(Recordset& kayıtlar, const Makale& makale);
 /// Appends the articles, each in a transaction of its own unless one is open.
 void Ekle(const Database& veritabanı, const QList<Makale>& makaleler);
 /// Every article of the library in the order of their keys.

@@ -13,12 +13,12 @@ DenemeProgramı::DenemeProgramı(const QList<Makale>& makaleler) : kitaplık_(ma
     AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - Belgenar 1.00");
     AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\Belgenar");
     ProgramKlasörü = kitaplık_.Klasör();
-    KitaplığıAç();
+    AçıkOturum.Aç(ProgramKlasörü);
 }
 
 DenemeProgramı::~DenemeProgramı()
 {
-    KitaplığıBırak();
+    AçıkOturum.Bırak();
 }
 
 KutuYanıtlayıcı::KutuYanıtlayıcı(Yanıt yanıt, std::function<void(QMessageBox&)> önce)

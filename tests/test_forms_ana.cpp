@@ -382,7 +382,7 @@ void TestMainWindow::exitSaves()
     QCOMPARE(AyarMetni(Ayarlar::Üst), state == 0 ? u"1200"_s : u"old"_s);
     // The library is let go of, and its account has lived for this run only.
     QVERIFY(!Veritabanı && !ÇalışmaAlanı);
-    QCOMPARE(SahipÇalışmaAlanı(*Motor).Users().Tümü().size(), std::size_t(1));
+    QCOMPARE(SahipÇalışmaAlanı(*AçıkOturum.Motor).Users().Tümü().size(), std::size_t(1));
 }
 
 void TestMainWindow::closedWhileFilling()

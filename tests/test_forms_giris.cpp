@@ -32,9 +32,9 @@ const QString EkleDüğmesi = u"EkleKaydetButonu"_s, KapatDüğmesi = u"İptalKa
               KaydetDüğmesi = u"KaydetDüğmesi"_s;
 
 const QList<Makale> Örnek = {
-    {u"ALİ KAYA"_s, u"ZEYTİN"_s, u"Deniz kıyısında"_s},
+    {u"ALİ KAYA"_s, u"ZEYTİN"_s, u"Deniz kıyısında"_s, u"Ankara"_s, u"Şubat 2003"_s},
     {u"ALİ KAYA"_s, u"ARI"_s, u"Arı bal yapar."_s, u"İzmir"_s, u""_s},
-    {u"ZEKİ SU"_s, u"IŞIK"_s, u"Işık hızlıdır."_s},
+    {u"ZEKİ SU"_s, u"IŞIK"_s, u"Işık hızlıdır."_s, u"Van"_s},
 };
 
 bool mavi(const QWidget& pencere, int etiket)
@@ -276,7 +276,7 @@ void TestEntryWindows::missingFields()
         {{u"ALİ\u00a0SU"_s, title, text}, u"Yazar adı, tek sözcük olamaz!"_s, YazarAlanı},
         {{author, {}, text}, u"Makale başlığı, boş bırakılamaz."_s, BaşlıkAlanı},
         {{author, title, text, {}}, u"Yayım yeri, boş bırakılamaz."_s, YerAlanı},
-        {{author, title, {}}, u"Makale metni, boş bırakılamaz."_s, MetinAlanı}};
+        {{author, title, {}, place}, u"Makale metni, boş bırakılamaz."_s, MetinAlanı}};
     const auto refused = [&](Pencere p, const QString& save) {
         for (const auto& [article, message, field] : rows) {
             p.Doldur(article);

@@ -17,7 +17,7 @@ namespace {
 
 const QList<Makale> Örnek = {
     {u"ALİ RIZA IŞIK"_s, u"İNCE ÇİZGİ"_s, u"İlk\u00a0satır\n\tikinci"_s, u"İzmir"_s, u"01.02.2003"_s},
-    {u"TEK-AD"_s, u"AD"_s, u"x"_s},
+    {u"TEK-AD"_s, u"AD"_s, u"x"_s, u"Ankara"_s, u"Şubat 2003"_s},
     {u"ZEKİ SU"_s, u"TARİHSİZ"_s, u"y"_s, u"kuzey VAN"_s, u""_s},
 };
 const QString İlkReferans = u"Ali Rıza Işık, \"İnce Çizgi\", İzmir, 01.02.2003"_s;
@@ -91,7 +91,7 @@ private slots:
     }
     void references()
     {
-        QCOMPARE(ReferansFormu::Referans(u"ALİ  IŞIK"_s, u"\"X\" VE 2.SINIF"_s, u"a"_s, u"b"_s),
+        QCOMPARE(ReferansFormu::Referans({u"ALİ  IŞIK"_s, u"\"X\" VE 2.SINIF"_s, {}, u"a"_s, u"b"_s}),
                  u"Ali Işık, \"\"x\" Ve 2.sınıf\", a, b"_s);
         for (const auto& [title, line] :
              {std::pair(Örnek[0].Başlık, İlkReferans),

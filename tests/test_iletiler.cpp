@@ -1,7 +1,7 @@
 // Every message of the program, brought up where users meet it: text, picture, buttons and place.
 #include "DenemeProgramı.h"
 
-#include "app/HataPolitikaları.h"
+#include "app/HataBildirimi.h"
 #include "app/PencereYeri.h"
 #include "app/İletiKutusu.h"
 #include "controls/AçılırListe.h"

@@ -21,8 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Mde = KitaplıkDosyaları::Veritabanı.toString(), MdKopya = KitaplıkDosyaları::Kopya.toString();
-const QString Tps = KitaplıkDosyaları::ÇalışmaGrubu.toString(), Parola = u";PWD=Pelikan"_s;
+const QString Mde = DosyaAdları::Veritabanı.toString(), MdKopya = DosyaAdları::Kopya.toString();
+const QString Tps = DosyaAdları::ÇalışmaGrubu.toString(), Parola = u";PWD=Pelikan"_s;
 const QString Tümü = u"SELECT * FROM [Makaleler]"_s;
 constexpr qsizetype SayfaBoyu = 16384;
 constexpr int Bölümler = 6; // of a test that would take too long in one
@@ -132,12 +132,12 @@ private slots:
         const QString klasör = hazırla();
         {
             Açılış açılış(klasör);
-            const Workspace sahip = SahipÇalışmaAlanı(açılış.Motor);
-            UserCollection hesaplar = sahip.Users(), yetkisiz = açılış.Alan->Users();
+            const Workspace sahip = SahipÇalışmaAlanı(*açılış.Motor);
+            UserCollection hesaplar = sahip.Users(), yetkisiz = açılış.ÇalışmaAlanı->Users();
             const User hesap = hesaplar.Tümü().at(0);
             QCOMPARE(hesap.Name() + hesap.PID() + hesap.Password(), u"Kullanici3Cizgi3"_s);
             const auto gir = [&](const QString& ad, const QString& parola) {
-                return HataNumarası([&] { açılış.Motor.CreateWorkspace({}, ad, parola); });
+                return HataNumarası([&] { açılış.Motor->CreateWorkspace({}, ad, parola); });
             };
             QVERIFY(gir(u"Sahip"_s, u"kaplumbaga"_s) == 3029 && gir(u"sahip"_s, u"Kaplumbaga"_s) == 3029);
             QCOMPARE(HataNumarası([&] { yetkisiz.Append(User(u"Başka"_s)); }), 3051);

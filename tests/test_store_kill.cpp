@@ -91,7 +91,8 @@ void aç(const DenemeKitaplığı& kitaplık)
             kayıt.Delete();
         } else {
             kayıt.Eof() ? kayıt.AddNew() : kayıt.Edit();
-            Doldur(kayıt, {metin.left(1), no, UzunMetin(t, boy), {}, metin});
+            Makale{metin.left(1), no, UzunMetin(t, boy), {}, metin}.Yaz(kayıt);
+            kayıt.Update();
         }
         bildir("sonra");
     }

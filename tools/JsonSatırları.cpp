@@ -99,15 +99,16 @@ Makale makaleÇöz(const QByteArray& satır)
         }
     }
     Makale makale;
-    for (std::size_t i = 0; i < makale.size(); ++i) {
-        const QStringView ad = MakaleSütunları[i].ad;
-        const QJsonValue değer = nesne.value(ad);
+    for (std::size_t i = 0; i < MakaleSütunları.size(); ++i) {
+        const SütunTanımı& sütun = MakaleSütunları[i];
+        const QJsonValue değer = nesne.value(sütun.ad);
         if (değer.isUndefined())
-            throw AraçHatası(QStringLiteral("%1 alanı eksik.").arg(ad));
+            throw AraçHatası(QStringLiteral("%1 alanı eksik.").arg(sütun.ad));
         if (!değer.isString())
-            throw AraçHatası(QStringLiteral("%1 alanının değeri bir metin değil.").arg(ad));
-        makale[i] = değer.toString().normalized(QString::NormalizationForm_C);
-        if (const QString sorun = DeğerSorunu(makale[i], static_cast<MakaleSütunu>(i)); !sorun.isEmpty())
+            throw AraçHatası(QStringLiteral("%1 alanının değeri bir metin değil.").arg(sütun.ad));
+        QString& alan = makale.*sütun.değer;
+        alan = değer.toString().normalized(QString::NormalizationForm_C);
+        if (const QString sorun = DeğerSorunu(alan, static_cast<MakaleSütunu>(i)); !sorun.isEmpty())
             throw AraçHatası(sorun);
     }
     return makale;
@@ -126,10 +127,10 @@ int girdiyiAç(const QString& yol)
 
 QByteArray MakaleSatırı(const Makale& makale)
 {
-    QByteArray satır = "{";
-    for (std::size_t i = 0; i < makale.size(); ++i) {
-        satır += (i == 0 ? "\"" : ", \"") + MakaleSütunları[i].ad.toUtf8() + "\": ";
-        satır += jsonDizesi(makale[i]);
+    QByteArray satır;
+    for (const SütunTanımı& sütun : MakaleSütunları) {
+        satır += (satır.isEmpty() ? "{\"" : ", \"") + sütun.ad.toUtf8() + "\": ";
+        satır += jsonDizesi(makale.*sütun.değer);
     }
     return satır + "}\n";
 }

@@ -9,8 +9,6 @@
 
 #include <optional>
 
-using Makale = MakaleDeğerleri;
-
 /// The article as a line of UTF-8 with its line break.
 QByteArray MakaleSatırı(const Makale& makale);
 

@@ -1,5 +1,6 @@
 #include "tools/Komutlar.h"
 
+#include "app/Oturum.h"
 #include "store/KitaplıkDenetimi.h"
 #include "store/MakaleKitaplığı.h"
 #include "store/MakaleOkuyucu.h"
@@ -58,21 +59,6 @@ QString klasörYolu(const QString& klasör)
     return yol.endsWith(u'/') ? yol : yol + u'/';
 }
 
-/// The open library; holds its lock.
-struct AçıkKitaplık
-{
-    AçıkKitaplık(const QString& klasör, Database (*aç)(const Workspace&, const QString&))
-    {
-        motor.SystemDB(KitaplıkYolu(klasör, KitaplıkDosyaları::ÇalışmaGrubu));
-        alan = SahipÇalışmaAlanı(motor);
-        veritabanı = aç(*alan, klasör);
-    }
-
-    DBEngine motor;
-    std::optional<Workspace> alan;
-    std::optional<Database> veritabanı;
-};
-
 int oluştur(const QStringList& değişkenler)
 {
     const QString klasör = klasörYolu(değişkenler[0]);
@@ -109,8 +95,7 @@ qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar)
     Recordset kayıtlar = veritabanı.OpenRecordset(EklemeSorgusu);
     while (const auto makale = satırlar.Sonraki()) {
         kayıtlar.AddNew();
-        for (std::size_t i = 0; i < makale->size(); ++i)
-            kayıtlar.Fields(MakaleSütunları[i].ad).Value((*makale)[i]);
+        makale->Yaz(kayıtlar);
         kayıtlar.Update();
         ilerleme.Göster(satırlar.BirKezOkunur() ? kayıtlar.RecordCount() : satırlar.Konum(),
                         satırlar.BirKezOkunur() ? 0 : satırlar.Boy());
@@ -120,14 +105,15 @@ qint64 makaleleriEkle(const Database& veritabanı, JsonSatırları& satırlar)
 
 int aktar(const QStringList& değişkenler)
 {
-    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]), KitaplıkAç);
+    Oturum oturum;
+    oturum.SahipOlarakAç(klasörYolu(değişkenler[0]), Oturum::Erişim::Yazma);
     const DurdurmaBekçisi bekçi;
     JsonSatırları satırlar(değişkenler[1], bekçi);
     if (!satırlar.BirKezOkunur()) // else a bad line rolls back what came before it
         satırlarıDenetle(satırlar);
     qint64 eklenen = 0;
-    kitaplık.veritabanı->TekİşlemdeYap([&] {
-        eklenen = makaleleriEkle(*kitaplık.veritabanı, satırlar);
+    oturum.Veritabanı->TekİşlemdeYap([&] {
+        eklenen = makaleleriEkle(*oturum.Veritabanı, satırlar);
         bekçi.Bak(); // the last article may have been a long one
     });
     Bildir(QStringLiteral("%1 makale aktarıldı.").arg(eklenen));
@@ -157,15 +143,16 @@ int dökümHesabı(const MakaleOkuyucu& okuyucu, const std::vector<MakaleKünyes
 
 int dök(const QStringList& değişkenler)
 {
-    const AçıkKitaplık kitaplık(klasörYolu(değişkenler[0]), KitaplığıOku);
+    Oturum oturum;
+    oturum.SahipOlarakAç(klasörYolu(değişkenler[0]), Oturum::Erişim::Okuma);
     Çıktı çıktı;
     std::vector<MakaleKünyesi> eksikler;
     auto ilerleme = std::make_optional<İlerleme>(QStringLiteral("Makaleler dökülüyor"));
-    kitaplık.veritabanı->İlerlemeAta([&ilerleme] {
+    oturum.Veritabanı->İlerlemeAta([&ilerleme] {
         ilerleme->Göster(0, 0);
         return true;
     });
-    MakaleOkuyucu okuyucu(*kitaplık.veritabanı);
+    MakaleOkuyucu okuyucu(*oturum.Veritabanı);
     for (qint64 sayı = 0; const MakaleKünyesi& künye : okuyucu.Künyeler()) {
         if (const auto makale = okuyucu.Oku(künye))
             çıktı.Yaz(MakaleSatırı(*makale));
@@ -174,7 +161,7 @@ int dök(const QStringList& değişkenler)
         ilerleme->Göster(++sayı, qint64(okuyucu.Künyeler().size()));
     }
     çıktı.Bitir();
-    kitaplık.veritabanı->İlerlemeAta({});
+    oturum.Veritabanı->İlerlemeAta({});
     ilerleme.reset();
     return dökümHesabı(okuyucu, eksikler);
 }

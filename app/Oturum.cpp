@@ -1,0 +1,63 @@
+#include "app/Oturum.h"
+
+#include "app/Ayarlar.h"
+#include "app/HataPolitikaları.h"
+#include "store/MakaleKitaplığı.h"
+
+void Oturum::sahipAlanınıAç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir)
+{
+    Motor.emplace(bildir);
+    Motor->SystemDB(KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu));
+    ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
+}
+
+YapıDurumu Oturum::Aç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir)
+{
+    sahipAlanınıAç(klasör, bildir);
+    const YapıDurumu durum = VeritabanınıSıkıştır(*Motor, klasör, bildir);
+    KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
+    ÇalışmaAlanı->Close();
+    ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);
+    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, klasör);
+    return durum;
+}
+
+void Oturum::SahipOlarakAç(const QString& klasör, Erişim erişim)
+{
+    sahipAlanınıAç(klasör, {});
+    Veritabanı =
+        erişim == Erişim::Yazma ? KitaplıkAç(*ÇalışmaAlanı, klasör) : OkunurKitaplıkAç(*ÇalışmaAlanı, klasör);
+}
+
+void Oturum::Kapat(const PencereSonu& son)
+{
+    AdımAdım(
+        [this] {
+            Veritabanı.reset();
+            ÇalışmaAlanı.reset();
+        },
+        [this] {
+            Workspace sahip = SahipÇalışmaAlanı(Motor.value());
+            KullanıcıHesabınıSil(sahip);
+            sahip.Close();
+        },
+        [&] {
+            if (son.Yer) {
+                AyarYaz(Ayarlar::Sol, son.Yer->x());
+                AyarYaz(Ayarlar::Üst, son.Yer->y());
+            }
+        },
+        [&] {
+            // The first author is where a start without this setting begins, too.
+            if (son.YazarSırası > 0)
+                AyarYaz(Ayarlar::SonYazar, son.YazarSırası);
+        },
+        [&] { AyarYaz(Ayarlar::TamEkran, son.Durum); });
+}
+
+void Oturum::Bırak()
+{
+    Veritabanı.reset();
+    ÇalışmaAlanı.reset();
+    Motor.reset();
+}
