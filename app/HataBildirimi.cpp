@@ -7,16 +7,16 @@
 #include <cstdio>
 #include <cstdlib>
 
-QString HataMetni(int metin, const Hata& hata)
+QString HataMetni(İleti metin, const Hata& hata)
 {
-    return Paragraflar({Metin(metin), Metin(15) + u' ' + QString::number(hata.Numara()),
-                        Metin(20) + u' ' + hata.Açıklama()});
+    return Paragraflar({Metin(metin), Metin(İleti::HataKodu) + u' ' + QString::number(hata.Numara()),
+                        Metin(İleti::HataMesajı) + u' ' + hata.Açıklama()});
 }
 
 void HatayıBildirVeBit(const Hata& hata)
 {
     std::fprintf(stderr, "belgenar: %d %s\n", hata.Numara(), hata.what());
-    İletiGöster(HataMetni(10, hata), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
+    İletiGöster(HataMetni(İleti::ProgramDevamEdemiyor, hata), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
     ProgramıBitir(1);
 }
 

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "app/HataPolitikaları.h"
+#include "app/Metinler.h"
 
-/// What users are told of an error: the text with this number, then the error's number and description, each
+/// What users are told of an error: this text, then the error's number and description, each
 /// a paragraph.
-QString HataMetni(int metin, const Hata& hata);
+QString HataMetni(İleti metin, const Hata& hata);
 
 /// Shows the error with its number and description, and ends the program. Does not return.
 [[noreturn]] void HatayıBildirVeBit(const Hata& hata);

@@ -28,18 +28,18 @@ QHash<int, QString> tabloyuOku()
 
 } // namespace
 
-QString Metin(int numara)
+QString Metin(İleti ileti)
 {
     static const QHash<int, QString> tablo = tabloyuOku();
-    const auto yer = tablo.constFind(numara);
+    const auto yer = tablo.constFind(static_cast<int>(ileti));
     if (yer == tablo.constEnd())
-        qFatal("The table of texts has no number %d", numara);
+        qFatal("The table of texts has no number %d", static_cast<int>(ileti));
     return *yer;
 }
 
-QString SadeMetin(int numara)
+QString SadeMetin(İleti ileti)
 {
-    QString metin = Metin(numara);
+    QString metin = Metin(ileti);
     metin.remove(u'&');
     while (metin.endsWith(u'.'))
         metin.chop(1);
@@ -48,5 +48,5 @@ QString SadeMetin(int numara)
 
 QString ToplamYazısı(qint64 sayı)
 {
-    return Metin(150) + u' ' + QString::number(sayı);
+    return Metin(İleti::Toplam) + u' ' + QString::number(sayı);
 }

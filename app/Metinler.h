@@ -1,14 +1,114 @@
-// The numbered table of user-interface texts.
+// The table of user-interface texts.
 #pragma once
 
 #include <QString>
 
-/// The text with this number, letter for letter. A number that the table lacks is a fault of the
-/// program and ends it.
-QString Metin(int numara);
+/// The texts by their numbers, which never change. Each is in resources/metinler.tsv, and each there is here:
+/// the build checks it.
+enum class İleti : int
+{
+    ProgramAdı = 5,
+    ProgramDevamEdemiyor = 10,
+    HataKodu = 15,
+    HataMesajı = 20,
+    SürümÖğrenilemedi = 25,
+    SürümEski = 30,
+    VeritabanıYok = 40,
+    GerekliDosyaYok = 45,
+    MakaleMenüsü = 65,
+    MakaleEkleMenüsü = 70,
+    MakaleDeğiştirMenüsü = 72,
+    MakaleSilMenüsü = 75,
+    TümünüSeç = 85,
+    Kopyala = 90,
+    Yazdır = 95,
+    WordeYapıştır = 100,
+    ReferansOluşturMenüsü = 110,
+    AyarlarMenüsü = 115,
+    YardımMenüsü = 120,
+    İçindekilerMenüsü = 125,
+    DizinMenüsü = 130,
+    HatalarıBildirinMenüsü = 135,
+    HakkındaMenüsü = 140,
+    Yazarlar = 145,
+    Toplam = 150,
+    YazarBul = 155,
+    Makaleler = 160,
+    MakaleBul = 165,
+    MakaleMetni = 170,
+    BulunacakSözcük = 175,
+    Bul = 180,
+    Temizle = 185,
+    TümMakalelerdeBul = 190,
+    Çıkış = 195,
+    ÇıkılsınMı = 200,
+    MakaleSeçiniz = 205,
+    SözcükMetindeYok = 210,
+    MakaleBulundu = 215,
+    MakaleBulunamadı = 220,
+    WordKuruluDeğil = 230,
+    WordBaşlatılamadı = 235,
+    AyarlarBaşlığı = 240,
+    YazıTipleri = 245,
+    YazıTipiBoyutu = 250,
+    ZeminRengi = 255,
+    ÖrnekMetin = 260,
+    İlkAyarlar = 270,
+    Tamam = 275,
+    İptal = 280,
+    EnKüçük = 285,
+    Küçük = 290,
+    Orta = 295,
+    Büyük = 300,
+    EnBüyük = 305,
+    Beyaz = 310,
+    Turuncu = 315,
+    Turkuaz = 320,
+    Yeşil = 325,
+    Sarı = 330,
+    Gri = 335,
+    EklemeBaşlığı = 340,
+    DeğiştirmeBaşlığı = 342,
+    GirilenYazarAdı = 345,
+    GirilenMakaleBaşlığı = 350,
+    GirilenYayımYeri = 355,
+    GirilenYayımTarihi = 360,
+    MakaleEkle = 370,
+    Kapat = 375,
+    Vazgeç = 377,
+    PanodanYapıştır = 380,
+    DosyadanYükle = 385,
+    YazarAdıBoş = 390,
+    YazarAdıTekSözcük = 393,
+    MakaleBaşlığıBoş = 395,
+    YayımYeriBoş = 400,
+    MakaleMetniBoş = 405,
+    Kaydet = 410,
+    MetinDosyaları = 415,
+    ZenginMetinDosyaları = 420,
+    DosyaAçBaşlığı = 425,
+    TarihKorunsunMu = 430,
+    SilmeBaşlığı = 435,
+    SilinenYazarAdı = 440,
+    SilinenYayımYeri = 445,
+    SilinenYayımTarihi = 450,
+    SeçiliMakaleyiSil = 455,
+    SilinecekMakaleSeçiniz = 460,
+    SonMakaleSilinmez = 465,
+    SilinsinMi = 470,
+    ReferansBaşlığı = 505,
+    HataBildirmeBaşlığı = 510,
+    HataBildirmeAçıklaması = 515,
+    HataBildirmeAdresleri = 520,
+    HakkındaBaşlığı = 530,
+    DeğiştirilecekMakaleSeçiniz = 550,
+};
+
+/// The text, letter for letter.
+QString Metin(İleti ileti);
 
 /// The text as a screen reader should say it: without mnemonic marks and trailing dots.
-QString SadeMetin(int numara);
+QString SadeMetin(İleti ileti);
 
 /// The line under a list that says how many entries it has.
 QString ToplamYazısı(qint64 sayı);

@@ -11,7 +11,7 @@
 extern QString AnaPencereBaşlığı; ///< caption of the main window; also what a second start looks for
 extern QString AyarUygulamaAdı;   ///< application name under which the settings are kept
 extern QString ProgramKlasörü;    ///< folder of the executable and the library, with a separator at its end
-extern bool NTPlatformu;          ///< what the system said of itself
+extern bool NTPlatformu;          ///< what the system said of itself; never on this one, so that nothing asks
 
 /// The library; open from start-up to the exit sequence. The two below are its workspace and its database.
 extern Oturum AçıkOturum;

@@ -11,7 +11,7 @@
 void WordeAktar(const std::function<void(WordBasic&)>& doldur)
 {
     if (!WordBasic::Kurulu()) {
-        İletiGöster(Metin(230), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+        İletiGöster(Metin(İleti::WordKuruluDeğil), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
         return;
     }
     try {
@@ -22,6 +22,7 @@ void WordeAktar(const std::function<void(WordBasic&)>& doldur)
         doldur(word);
         word.AppShow();
     } catch (...) {
-        İletiGöster(HataMetni(235, ŞimdikiHata()), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
+        İletiGöster(HataMetni(İleti::WordBaşlatılamadı, ŞimdikiHata()), İletiSimgesi::Kritik,
+                    İletiDüğmeleri::Tamam);
     }
 }

@@ -35,7 +35,7 @@ QString Paragraflar(const QStringList& paragraflar)
     QWidget* etkin = yer == İletiYeri::EtkinPencere ? QApplication::activeWindow() : nullptr;
     QMessageBox kutu(etkin);
     kutu.setObjectName(QStringLiteral("İletiKutusu"));
-    kutu.setWindowTitle(Metin(5));
+    kutu.setWindowTitle(Metin(İleti::ProgramAdı));
     kutu.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
     kutu.setTextFormat(Qt::PlainText); // file names and articles may hold anything

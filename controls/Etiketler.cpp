@@ -24,7 +24,7 @@ void EtiketiKur(QLabel& etiket, std::size_t sıra, const QString& yazı)
     }
 }
 
-void EtiketiKur(QLabel& etiket, std::size_t sıra, int metin, QWidget& kontrol)
+void EtiketiKur(QLabel& etiket, std::size_t sıra, İleti metin, QWidget& kontrol)
 {
     EtiketiKur(etiket, sıra, Metin(metin));
     etiket.setBuddy(&kontrol);

@@ -177,32 +177,33 @@ void AnaForm::Form_Load()
 
 void AnaForm::başlıklarıKoy()
 {
-    MakaleMenüsü.setTitle(Metin(65));
-    MakaleEkleMenüsü.setText(Metin(70));
-    MakeleDeğiştirMenüsü.setText(Metin(72));
-    MakaleSilMenüsü.setText(Metin(75));
-    TümünüSeçMenüsü.setText(Metin(85));
-    KopyalaMenüsü.setText(Metin(90));
-    YazdırMenüsü.setText(Metin(95));
-    WordeYapıştırMenüsü.setText(Metin(100));
-    ReferansOluşturMenüsü.setText(Metin(110));
-    AyarlarMenüsü.setText(Metin(115));
-    AyarlarMenüsü1.setText(Metin(115));
-    YardımMenüsü.setTitle(Metin(120));
-    İçindekilerMenüsü.setText(Metin(125));
-    DizinMenüsü.setText(Metin(130));
-    HatalarıBildirinMenüsü.setText(Metin(135));
-    HakkındaMenüsü.setText(Metin(140));
+    MakaleMenüsü.setTitle(Metin(İleti::MakaleMenüsü));
+    MakaleEkleMenüsü.setText(Metin(İleti::MakaleEkleMenüsü));
+    MakeleDeğiştirMenüsü.setText(Metin(İleti::MakaleDeğiştirMenüsü));
+    MakaleSilMenüsü.setText(Metin(İleti::MakaleSilMenüsü));
+    TümünüSeçMenüsü.setText(Metin(İleti::TümünüSeç));
+    KopyalaMenüsü.setText(Metin(İleti::Kopyala));
+    YazdırMenüsü.setText(Metin(İleti::Yazdır));
+    WordeYapıştırMenüsü.setText(Metin(İleti::WordeYapıştır));
+    ReferansOluşturMenüsü.setText(Metin(İleti::ReferansOluşturMenüsü));
+    AyarlarMenüsü.setText(Metin(İleti::AyarlarMenüsü));
+    AyarlarMenüsü1.setText(Metin(İleti::AyarlarMenüsü));
+    YardımMenüsü.setTitle(Metin(İleti::YardımMenüsü));
+    İçindekilerMenüsü.setText(Metin(İleti::İçindekilerMenüsü));
+    DizinMenüsü.setText(Metin(İleti::DizinMenüsü));
+    HatalarıBildirinMenüsü.setText(Metin(İleti::HatalarıBildirinMenüsü));
+    HakkındaMenüsü.setText(Metin(İleti::HakkındaMenüsü));
 
     const std::array<QWidget*, 6> bağlılar = {&YazarListesi,    &YazarBulKutusu,    &MakaleListesi,
                                               &MakaleBulKutusu, &MakaleMetniKutusu, &BulKutusu};
-    constexpr std::array<int, 6> etiketler = {145, 155, 160, 165, 170, 175};
+    constexpr std::array<İleti, 6> etiketler = {İleti::Yazarlar,  İleti::YazarBul,    İleti::Makaleler,
+                                                İleti::MakaleBul, İleti::MakaleMetni, İleti::BulunacakSözcük};
     for (std::size_t i = 0; i < Etiket.size(); ++i)
         EtiketiKur(Etiket[i], i, etiketler[i], *bağlılar[i]);
-    BulButonu.setText(Metin(180));
-    TemizleButonu.setText(Metin(185));
-    TümündeBulButonu.setText(Metin(190));
-    ÇıkışButonu.setText(Metin(195));
+    BulButonu.setText(Metin(İleti::Bul));
+    TemizleButonu.setText(Metin(İleti::Temizle));
+    TümündeBulButonu.setText(Metin(İleti::TümMakalelerdeBul));
+    ÇıkışButonu.setText(Metin(İleti::Çıkış));
 }
 
 void AnaForm::pencereDurumunuOku()

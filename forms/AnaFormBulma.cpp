@@ -102,7 +102,7 @@ void AnaForm::BulButonu_Click()
 {
     İlkHatadaBit([this] {
         if (MakaleMetniKutusu.document()->isEmpty()) {
-            İletiGöster(Metin(205), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+            İletiGöster(Metin(İleti::MakaleSeçiniz), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
             MakaleListesi.setFocus();
             return;
         }
@@ -112,7 +112,7 @@ void AnaForm::BulButonu_Click()
         MakaleMetniKutusu.SelStart(MakaleMetniKutusu.SelStart() + 1);
         if (bulundu)
             return;
-        İletiGöster(Metin(210), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+        İletiGöster(Metin(İleti::SözcükMetindeYok), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
         BulKutusu.setFocus();
     });
 }
@@ -139,7 +139,7 @@ void AnaForm::TemizleButonu_Click()
     }
     ÇıkışButonu.setEnabled(true); // a search that failed has left it disabled
     bulmaDüğmeleri(false);
-    bulmaEtiketi(Metin(175));
+    bulmaEtiketi(Metin(İleti::BulunacakSözcük));
     MakaleListesi_Click();
     BulKutusu.Text({}); // fires its Change, which clears once more and finds nothing left to do
     BulKutusu.setFocus();
@@ -183,7 +183,7 @@ void AnaForm::tümündeBul()
 void AnaForm::sonuçYok()
 {
     MakaleleriBoşalt();
-    bulmaEtiketi(Metin(220));
+    bulmaEtiketi(Metin(İleti::MakaleBulunamadı));
     BulKutusu.setFocus();
 }
 
@@ -194,7 +194,7 @@ void AnaForm::sonuçlarıGöster(Recordset& kayıtlar)
         başlıklar.append(kayıtlar.Fields(u"MakaleBasligi").Value());
     MakaleListesi.Clear();
     MakaleListesi.AddItems(başlıklar);
-    bulmaEtiketi(QString::number(MakaleListesi.ListCount()) + u' ' + Metin(215));
+    bulmaEtiketi(QString::number(MakaleListesi.ListCount()) + u' ' + Metin(İleti::MakaleBulundu));
     makaleToplamınıYaz();
     MakaleListesi.setFocus();
     MakaleListesi.ListIndex(0);

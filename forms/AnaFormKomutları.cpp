@@ -44,7 +44,8 @@ void AnaForm::MakeleDeğiştirMenüsü_Click()
 {
     İlkHatadaBit([this] {
         if (SeçiliMakale().isEmpty()) {
-            İletiGöster(Metin(550), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+            İletiGöster(Metin(İleti::DeğiştirilecekMakaleSeçiniz), İletiSimgesi::Bilgi,
+                        İletiDüğmeleri::Tamam);
             MakaleListesi.setFocus();
             return;
         }

@@ -78,7 +78,7 @@ void AnaForm::yazdır()
                                                          : MakaleMetniKutusu.SelText());
     const auto sonunda = qScopeGuard([this] { YazdırKutusu.Text({}); });
     MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize(),
-                SeçiliMakale().isEmpty() ? Metin(5) : SeçiliMakale());
+                SeçiliMakale().isEmpty() ? Metin(İleti::ProgramAdı) : SeçiliMakale());
 }
 
 void AnaForm::WordeYapıştırMenüsü_Click()

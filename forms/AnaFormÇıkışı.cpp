@@ -46,8 +46,8 @@ bool AnaForm::Form_QueryUnload(KapanışNedeni neden)
         soruluyor_ = true;
         const auto sorulmuyor = qScopeGuard([this] { soruluyor_ = false; });
         const İletiYeri yer = isMinimized() ? İletiYeri::Ekran : İletiYeri::EtkinPencere;
-        const bool çıkılsın =
-            İletiGöster(Metin(200), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır, yer) == İletiYanıtı::Evet;
+        const bool çıkılsın = İletiGöster(Metin(İleti::ÇıkılsınMı), İletiSimgesi::Soru,
+                                          İletiDüğmeleri::EvetHayır, yer) == İletiYanıtı::Evet;
         if (bitti_) // the system ended the program while the question stood
             return true;
         if (!çıkılsın)

@@ -40,7 +40,7 @@ AyarlarFormu::AyarlarFormu(AnaForm& anaForm) : anaForm_(anaForm)
 
 void AyarlarFormu::kontrolleriKur()
 {
-    setWindowTitle(Metin(240));
+    setWindowTitle(Metin(İleti::AyarlarBaşlığı));
     Altlık.setObjectName(QStringLiteral("Altlık"));
     Çerçeve.setObjectName(QStringLiteral("Çerçeve"));
     YazıTipiListesi.setObjectName(QStringLiteral("YazıTipiListesi"));
@@ -52,17 +52,17 @@ void AyarlarFormu::kontrolleriKur()
     İptalButonu.setObjectName(QStringLiteral("İptalButonu"));
     YardımButonu.setObjectName(QStringLiteral("YardımButonu"));
 
-    EtiketiKur(Etiket[0], 0, 245, YazıTipiListesi);
-    EtiketiKur(Etiket[1], 1, 250, YazıTipiBoyutuListesi);
-    EtiketiKur(Etiket[2], 2, 255, ZeminRengiListesi);
-    İlkAyarlarButonu.setText(Metin(270));
-    TamamButonu.setText(Metin(275));
-    İptalButonu.setText(Metin(280));
-    YardımButonu.setText(Metin(120)); // nothing answers it yet
+    EtiketiKur(Etiket[0], 0, İleti::YazıTipleri, YazıTipiListesi);
+    EtiketiKur(Etiket[1], 1, İleti::YazıTipiBoyutu, YazıTipiBoyutuListesi);
+    EtiketiKur(Etiket[2], 2, İleti::ZeminRengi, ZeminRengiListesi);
+    İlkAyarlarButonu.setText(Metin(İleti::İlkAyarlar));
+    TamamButonu.setText(Metin(İleti::Tamam));
+    İptalButonu.setText(Metin(İleti::İptal));
+    YardımButonu.setText(Metin(İleti::YardımMenüsü)); // nothing answers it yet
     TamamButonu.setDefault(true);
 
     // Only looked at: it takes no focus.
-    ÖrnekMetinKutusu.Text(Metin(260));
+    ÖrnekMetinKutusu.Text(Metin(İleti::ÖrnekMetin));
     ÖrnekMetinKutusu.YalnızOkunur();
     ÖrnekMetinKutusu.setAccessibleName(QStringLiteral("Örnek metin"));
     ÖrnekMetinKutusu.setFocusPolicy(Qt::NoFocus);
@@ -123,9 +123,11 @@ void AyarlarFormu::Form_Load()
     AdımAdım(
         [this] {
             Altlık.setPalette(palette());
-            for (const int metin : {285, 290, 295, 300, 305})
+            for (const İleti metin :
+                 {İleti::EnKüçük, İleti::Küçük, İleti::Orta, İleti::Büyük, İleti::EnBüyük})
                 YazıTipiBoyutuListesi.AddItems({Metin(metin)});
-            for (const int metin : {310, 315, 320, 325, 330, 335})
+            for (const İleti metin :
+                 {İleti::Beyaz, İleti::Turuncu, İleti::Turkuaz, İleti::Yeşil, İleti::Sarı, İleti::Gri})
                 ZeminRengiListesi.AddItems({Metin(metin)});
             YazıTipleriniDoldur(YazıTipiListesi);
         },

@@ -21,7 +21,7 @@ QFont bağlantıYazıTipi()
 
 } // namespace
 
-BilgiFormu::BilgiFormu(const QString& ad, int başlık) : Altlık(this), ızgara(new QGridLayout(&Altlık))
+BilgiFormu::BilgiFormu(const QString& ad, İleti başlık) : Altlık(this), ızgara(new QGridLayout(&Altlık))
 {
     setObjectName(ad);
     setWindowTitle(Metin(başlık));
@@ -50,7 +50,7 @@ void BilgiFormu::bağlantıKur(WebEtiketi& bağlantı, const QString& ad, const 
 void BilgiFormu::bitir(Düğme& kapat, const QString& ad)
 {
     kapat.setObjectName(ad);
-    kapat.setText(Metin(275));
+    kapat.setText(Metin(İleti::Tamam));
     kapat.setDefault(true);
     // Pointing at a picture or a text is pointing at the panel.
     for (QLabel* etiket : Altlık.findChildren<QLabel*>(Qt::FindDirectChildrenOnly))

@@ -1,6 +1,7 @@
 // What the windows with links share.
 #pragma once
 
+#include "app/Metinler.h"
 #include "controls/Düğme.h"
 #include "controls/WebEtiketi.h"
 
@@ -13,8 +14,7 @@
 class BilgiFormu : public QDialog
 {
 protected:
-    /// @param başlık number of the caption in the table of texts
-    BilgiFormu(const QString& ad, int başlık);
+    BilgiFormu(const QString& ad, İleti başlık);
 
     void bağlantıKur(WebEtiketi& bağlantı, const QString& ad, const QString& yazı, const QString& adres);
     /// To be called once the panel has its content.

@@ -21,13 +21,13 @@ void sığdır(MetinKutusu& kutu, const QString& metin)
 DeğiştirFormu::DeğiştirFormu(AnaForm& anaForm)
     : MakaleGirişFormu(&anaForm, anaForm,
                        {.Pencere = QStringLiteral("DeğiştirFormu"),
-                        .Başlık = 342,
+                        .Başlık = İleti::DeğiştirmeBaşlığı,
                         .Kaydet = QStringLiteral("KaydetDüğmesi"),
                         .Vazgeç = QStringLiteral("VazgeçDüğmesi"),
                         .Yapıştır = QStringLiteral("YapıştırDüğmesi"),
                         .DosyaYükle = QStringLiteral("DosyaYükleDüğmesi"),
-                        .KaydetYazısı = 410,
-                        .VazgeçYazısı = 377})
+                        .KaydetYazısı = İleti::Kaydet,
+                        .VazgeçYazısı = İleti::Vazgeç})
 {
     basılınca(KaydetDüğmesi, [this] { KaydetDüğmesi_Click(); });
     basılınca(VazgeçDüğmesi, [this] { VazgeçDüğmesi_Click(); });

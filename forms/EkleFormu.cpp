@@ -18,13 +18,13 @@ constexpr int MetinBoyutu = 8; // points
 EkleFormu::EkleFormu(AnaForm& anaForm)
     : MakaleGirişFormu(nullptr, anaForm,
                        {.Pencere = QStringLiteral("EkleFormu"),
-                        .Başlık = 340,
+                        .Başlık = İleti::EklemeBaşlığı,
                         .Kaydet = QStringLiteral("EkleKaydetButonu"),
                         .Vazgeç = QStringLiteral("İptalKapatButonu"),
                         .Yapıştır = QStringLiteral("YapıştırButonu"),
                         .DosyaYükle = QStringLiteral("DosyaYükleButonu"),
-                        .KaydetYazısı = 370,
-                        .VazgeçYazısı = 375})
+                        .KaydetYazısı = İleti::MakaleEkle,
+                        .VazgeçYazısı = İleti::Kapat})
 {
     basılınca(EkleKaydetButonu, [this] { EkleKaydetButonu_Click(); });
     basılınca(İptalKapatButonu, [this] { İptalKapatButonu_Click(); });
@@ -43,8 +43,8 @@ void EkleFormu::düğmeleriKilitle()
 {
     DosyaYükleButonu.setEnabled(false);
     YapıştırButonu.setEnabled(false);
-    EkleKaydetButonu.setText(Metin(370));
-    İptalKapatButonu.setText(Metin(375));
+    EkleKaydetButonu.setText(Metin(İleti::MakaleEkle));
+    İptalKapatButonu.setText(Metin(İleti::Kapat));
 }
 
 void EkleFormu::EkleKaydetButonu_Click()
@@ -62,8 +62,8 @@ void EkleFormu::girişeBaşla()
     MakaleMetniKutusu.setFont(FormYazıTipi());
     MakaleMetniKutusu.FontSize(MetinBoyutu);
     YapıştırButonu.setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
-    EkleKaydetButonu.setText(Metin(410));
-    İptalKapatButonu.setText(Metin(280));
+    EkleKaydetButonu.setText(Metin(İleti::Kaydet));
+    İptalKapatButonu.setText(Metin(İleti::İptal));
     yeniKayıt();
     YazarAdıListesi.setFocus();
 }

@@ -14,11 +14,11 @@ constexpr int AdBoyu = 12; // points
 
 } // namespace
 
-HakkındaFormu::HakkındaFormu() : BilgiFormu(QStringLiteral("HakkındaFormu"), 530)
+HakkındaFormu::HakkındaFormu() : BilgiFormu(QStringLiteral("HakkındaFormu"), İleti::HakkındaBaşlığı)
 {
     SimgeKutusu.setObjectName(QStringLiteral("SimgeKutusu"));
     ProgramResmiKoy(SimgeKutusu, SimgeBoyu);
-    EtiketiKur(Etiket[0], 0, Metin(5) + QStringLiteral(" Programı"));
+    EtiketiKur(Etiket[0], 0, Metin(İleti::ProgramAdı) + QStringLiteral(" Programı"));
     EtiketiKur(Etiket[1], 1, SürümYazısı());
     QFont adYazıTipi = FormYazıTipi(AdBoyu);
     adYazıTipi.setBold(true);

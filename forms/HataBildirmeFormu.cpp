@@ -11,11 +11,12 @@ constexpr int BaşlıkBoyu = 12; // points
 
 } // namespace
 
-HataBildirmeFormu::HataBildirmeFormu() : BilgiFormu(QStringLiteral("HataBildirmeFormu"), 510)
+HataBildirmeFormu::HataBildirmeFormu()
+    : BilgiFormu(QStringLiteral("HataBildirmeFormu"), İleti::HataBildirmeBaşlığı)
 {
-    EtiketiKur(Etiket[0], 0, Metin(510));
-    EtiketiKur(Etiket[1], 1, Metin(515));
-    EtiketiKur(Etiket[2], 2, Metin(520));
+    EtiketiKur(Etiket[0], 0, Metin(İleti::HataBildirmeBaşlığı));
+    EtiketiKur(Etiket[1], 1, Metin(İleti::HataBildirmeAçıklaması));
+    EtiketiKur(Etiket[2], 2, Metin(İleti::HataBildirmeAdresleri));
     QFont yazıTipi = font();
     yazıTipi.setBold(true);
     Etiket[2].setFont(yazıTipi);
@@ -25,7 +26,8 @@ HataBildirmeFormu::HataBildirmeFormu() : BilgiFormu(QStringLiteral("HataBildirme
     bağlantıKur(WebEtiketi[0], QStringLiteral("WebEtiketi0"), QStringLiteral("E-Posta Gönder"),
                 QStringLiteral("mailto:destek@tepsan.example"));
     bağlantıKur(WebEtiketi[1], QStringLiteral("WebEtiketi1"), QStringLiteral("Mesaj Gönder"),
-                ÜreticiSitesi.toString() + QStringLiteral("/asp/mesaj/mesaj.asp?ProgramAdi=") + Metin(5));
+                ÜreticiSitesi.toString() + QStringLiteral("/asp/mesaj/mesaj.asp?ProgramAdi=") +
+                    Metin(İleti::ProgramAdı));
 
     int satır = 0;
     for (QLabel& etiket : Etiket) {

@@ -21,13 +21,13 @@ constexpr int AdBoyu = 20; // points
 KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
 {
     setObjectName(QStringLiteral("KarşılamaFormu"));
-    setWindowTitle(Metin(5));
+    setWindowTitle(Metin(İleti::ProgramAdı));
     setFont(FormYazıTipi());
 
     SimgeKutusu.setObjectName(QStringLiteral("SimgeKutusu"));
     ProgramResmiKoy(SimgeKutusu, SimgeBoyu);
     AdEtiketi.setObjectName(QStringLiteral("AdEtiketi"));
-    AdEtiketi.setText(Metin(5));
+    AdEtiketi.setText(Metin(İleti::ProgramAdı));
     QFont adYazıTipi = FormYazıTipi(AdBoyu);
     adYazıTipi.setBold(true);
     AdEtiketi.setFont(adYazıTipi);

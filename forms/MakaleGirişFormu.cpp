@@ -68,7 +68,9 @@ void MakaleGirişFormu::kontrolleriKur(const Adlar& adlar)
     YayımYeriKutusu.setObjectName(QStringLiteral("YayımYeriKutusu"));
     YayımTarihiKutusu.setObjectName(QStringLiteral("YayımTarihiKutusu"));
     MakaleMetniKutusu.setObjectName(QStringLiteral("MakaleMetniKutusu"));
-    constexpr std::array<int, 5> etiketler = {345, 350, 355, 360, 170};
+    constexpr std::array<İleti, 5> etiketler = {İleti::GirilenYazarAdı, İleti::GirilenMakaleBaşlığı,
+                                                İleti::GirilenYayımYeri, İleti::GirilenYayımTarihi,
+                                                İleti::MakaleMetni};
     for (std::size_t i = 0; i < Etiket.size(); ++i)
         EtiketiKur(Etiket[i], i, etiketler[i], *alanlar()[i]);
 
@@ -79,12 +81,12 @@ void MakaleGirişFormu::kontrolleriKur(const Adlar& adlar)
     YayımTarihiKutusu.setMaxLength(EnUzunTarih);
     MakaleMetniKutusu.setUndoRedoEnabled(true);
 
-    const auto düğmeKur = [](Düğme& düğme, const QString& ad, int metin) {
+    const auto düğmeKur = [](Düğme& düğme, const QString& ad, İleti metin) {
         düğme.setObjectName(ad);
         düğme.setText(Metin(metin));
     };
-    düğmeKur(yapıştır_, adlar.Yapıştır, 380);
-    düğmeKur(dosyaYükle_, adlar.DosyaYükle, 385);
+    düğmeKur(yapıştır_, adlar.Yapıştır, İleti::PanodanYapıştır);
+    düğmeKur(dosyaYükle_, adlar.DosyaYükle, İleti::DosyadanYükle);
     düğmeKur(kaydet_, adlar.Kaydet, adlar.KaydetYazısı);
     düğmeKur(vazgeç_, adlar.Vazgeç, adlar.VazgeçYazısı);
 }
@@ -168,7 +170,8 @@ bool MakaleGirişFormu::tarihUygun()
 
 bool MakaleGirişFormu::tarihiSor()
 {
-    return İletiGöster(Metin(430), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır) == İletiYanıtı::Evet;
+    return İletiGöster(Metin(İleti::TarihKorunsunMu), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayır) ==
+           İletiYanıtı::Evet;
 }
 
 void MakaleGirişFormu::yazarlarıYükle(const QString& sorgu)
@@ -187,15 +190,16 @@ bool MakaleGirişFormu::alanlarTamam()
     struct Kural
     {
         bool eksik;
-        int ileti;
+        İleti ileti;
         QWidget& alan;
     };
     const QString yazar = YazarAdıListesi.Text();
     for (const Kural& kural :
-         {Kural{yazar.isEmpty(), 390, YazarAdıListesi}, Kural{!yazar.contains(u' '), 393, YazarAdıListesi},
-          Kural{MakaleBaşlığıKutusu.Text().isEmpty(), 395, MakaleBaşlığıKutusu},
-          Kural{YayımYeriKutusu.Text().isEmpty(), 400, YayımYeriKutusu},
-          Kural{MakaleMetniKutusu.document()->isEmpty(), 405, MakaleMetniKutusu}}) {
+         {Kural{yazar.isEmpty(), İleti::YazarAdıBoş, YazarAdıListesi},
+          Kural{!yazar.contains(u' '), İleti::YazarAdıTekSözcük, YazarAdıListesi},
+          Kural{MakaleBaşlığıKutusu.Text().isEmpty(), İleti::MakaleBaşlığıBoş, MakaleBaşlığıKutusu},
+          Kural{YayımYeriKutusu.Text().isEmpty(), İleti::YayımYeriBoş, YayımYeriKutusu},
+          Kural{MakaleMetniKutusu.document()->isEmpty(), İleti::MakaleMetniBoş, MakaleMetniKutusu}}) {
         if (!kural.eksik)
             continue;
         İletiGöster(Metin(kural.ileti), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
@@ -224,7 +228,8 @@ void MakaleGirişFormu::panodanYapıştır()
 
 void MakaleGirişFormu::dosyadanYükle()
 {
-    const QString yol = DosyaSor(*this, Metin(425), başlangıçKlasörü(), {Metin(415), Metin(420)});
+    const QString yol = DosyaSor(*this, Metin(İleti::DosyaAçBaşlığı), başlangıçKlasörü(),
+                                 {Metin(İleti::MetinDosyaları), Metin(İleti::ZenginMetinDosyaları)});
     if (yol.isEmpty())
         return;
     const auto uyar = [](const QString& neden) {

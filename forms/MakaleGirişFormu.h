@@ -1,6 +1,7 @@
 // What the windows for adding and for changing an article share: the five fields and their rules.
 #pragma once
 
+#include "app/Metinler.h"
 #include "controls/AyrılışDenetimi.h"
 #include "controls/AçılırListe.h"
 #include "controls/Düğme.h"
@@ -23,13 +24,13 @@ class AnaForm;
 class MakaleGirişFormu : public QDialog
 {
 protected:
-    /// Object names and caption numbers of what the two windows call differently.
+    /// Object names and captions of what the two windows call differently.
     struct Adlar
     {
         QString Pencere;
-        int Başlık;
+        İleti Başlık;
         QString Kaydet, Vazgeç, Yapıştır, DosyaYükle;
-        int KaydetYazısı, VazgeçYazısı;
+        İleti KaydetYazısı, VazgeçYazısı;
     };
     MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adlar& adlar);
 

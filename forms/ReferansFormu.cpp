@@ -38,18 +38,18 @@ ReferansFormu::ReferansFormu(const QString& başlık)
 
 void ReferansFormu::kontrolleriKur()
 {
-    setWindowTitle(Metin(505));
+    setWindowTitle(Metin(İleti::ReferansBaşlığı));
     ReferansBilgisiKutusu.setObjectName(QStringLiteral("ReferansBilgisiKutusu"));
-    ReferansBilgisiKutusu.setAccessibleName(SadeMetin(505));
+    ReferansBilgisiKutusu.setAccessibleName(SadeMetin(İleti::ReferansBaşlığı));
     ReferansBilgisiKutusu.YalnızOkunur();
     SimgeKutusu.setObjectName(QStringLiteral("SimgeKutusu"));
     SimgeKutusu.setPixmap(windowIcon().pixmap(FormPikseli(SimgeBoyu)));
     KopyalaButonu.setObjectName(QStringLiteral("KopyalaButonu"));
-    KopyalaButonu.setText(Metin(90));
+    KopyalaButonu.setText(Metin(İleti::Kopyala));
     WordeYapıştırButonu.setObjectName(QStringLiteral("WordeYapıştırButonu"));
-    WordeYapıştırButonu.setText(Metin(100));
+    WordeYapıştırButonu.setText(Metin(İleti::WordeYapıştır));
     KapatButonu.setObjectName(QStringLiteral("KapatButonu"));
-    KapatButonu.setText(Metin(375));
+    KapatButonu.setText(Metin(İleti::Kapat));
 }
 
 void ReferansFormu::yerleştir()

@@ -32,7 +32,7 @@ SilFormu::SilFormu(AnaForm& anaForm) : QDialog(&anaForm), anaForm_(anaForm)
 
 void SilFormu::kontrolleriKur()
 {
-    setWindowTitle(Metin(435));
+    setWindowTitle(Metin(İleti::SilmeBaşlığı));
     MakaleListesi.setObjectName(QStringLiteral("MakaleListesi"));
     MakaleBulKutusu.setObjectName(QStringLiteral("MakaleBulKutusu"));
     YazarAdıKutusu.setObjectName(QStringLiteral("YazarAdıKutusu"));
@@ -43,14 +43,14 @@ void SilFormu::kontrolleriKur()
     SilButonu.setObjectName(QStringLiteral("SilButonu"));
     KapatButonu.setObjectName(QStringLiteral("KapatButonu"));
 
-    EtiketiKur(Etiket[0], 0, 160, MakaleListesi);
-    EtiketiKur(Etiket[1], 1, 165, MakaleBulKutusu);
-    EtiketiKur(Etiket[2], 2, 440, YazarAdıKutusu);
-    EtiketiKur(Etiket[3], 3, 445, YayımYeriKutusu);
-    EtiketiKur(Etiket[4], 4, 450, YayımTarihiKutusu);
-    EtiketiKur(Etiket[5], 5, 170, MakaleMetniKutusu);
-    SilButonu.setText(Metin(455));
-    KapatButonu.setText(Metin(375));
+    EtiketiKur(Etiket[0], 0, İleti::Makaleler, MakaleListesi);
+    EtiketiKur(Etiket[1], 1, İleti::MakaleBul, MakaleBulKutusu);
+    EtiketiKur(Etiket[2], 2, İleti::SilinenYazarAdı, YazarAdıKutusu);
+    EtiketiKur(Etiket[3], 3, İleti::SilinenYayımYeri, YayımYeriKutusu);
+    EtiketiKur(Etiket[4], 4, İleti::SilinenYayımTarihi, YayımTarihiKutusu);
+    EtiketiKur(Etiket[5], 5, İleti::MakaleMetni, MakaleMetniKutusu);
+    SilButonu.setText(Metin(İleti::SeçiliMakaleyiSil));
+    KapatButonu.setText(Metin(İleti::Kapat));
 
     MakaleBulKutusu.setMaxLength(EnUzunAranan);
     for (MetinKutusu* kutu : {&YazarAdıKutusu, &YayımYeriKutusu, &YayımTarihiKutusu})
@@ -181,16 +181,16 @@ void SilFormu::SilButonu_Click()
 bool SilFormu::silinsinMi()
 {
     if (MakaleListesi.Text().isEmpty()) {
-        İletiGöster(Metin(460), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+        İletiGöster(Metin(İleti::SilinecekMakaleSeçiniz), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
         return false;
     }
     if (MakaleListesi.ListCount() == 1) {
-        İletiGöster(Metin(465), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+        İletiGöster(Metin(İleti::SonMakaleSilinmez), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
         MakaleListesi.ListIndex(0);
         return false;
     }
-    return İletiGöster(Metin(470), İletiSimgesi::Soru, İletiDüğmeleri::EvetHayırVarsayılanHayır) ==
-           İletiYanıtı::Evet;
+    return İletiGöster(Metin(İleti::SilinsinMi), İletiSimgesi::Soru,
+                       İletiDüğmeleri::EvetHayırVarsayılanHayır) == İletiYanıtı::Evet;
 }
 
 void SilFormu::sil()

@@ -32,7 +32,7 @@ namespace {
 const QString DizinOnarıldıMetni =
     QStringLiteral("Bir dizin bozuktu; tablodan yeniden yapıldı. Makaleler tamam.");
 
-[[noreturn]] void reddet(int metin)
+[[noreturn]] void reddet(İleti metin)
 {
     İletiGöster(Metin(metin), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
     ProgramıBitir(1);
@@ -42,8 +42,14 @@ void sürümüDenetle()
 {
     const auto sürüm = SürümBilgisiAl();
     NTPlatformu = sürüm && sürüm->Platform == 2;
-    if (const int metin = SürümReddi(sürüm))
-        reddet(metin);
+    switch (SürümüDeğerlendir(sürüm)) {
+    case SürümDurumu::Uygun:
+        return;
+    case SürümDurumu::YanıtYok:
+        reddet(İleti::SürümÖğrenilemedi);
+    case SürümDurumu::Eski:
+        reddet(İleti::SürümEski);
+    }
 }
 
 /// The toolkit can't name a folder whose bytes are no UTF-8: without this the library would seem missing.
@@ -58,9 +64,9 @@ void dosyalarıDenetle()
 {
     yolGeçerliOlmalı();
     if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Veritabanı)))
-        reddet(40);
+        reddet(İleti::VeritabanıYok);
     if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::ÇalışmaGrubu)))
-        reddet(45);
+        reddet(İleti::GerekliDosyaYok);
 }
 
 void kitaplığıAç()
@@ -101,12 +107,13 @@ int SubMain(QApplication& uygulama)
         uygulama.setFont(FormYazıTipi());
         const PencereYerleştirici yerleştirici(uygulama);
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
-        AnaPencereBaşlığı = QStringLiteral("Tepsan Yazılım - ") + Metin(5) + u' ' + SürümMetni();
+        AnaPencereBaşlığı =
+            QStringLiteral("Tepsan Yazılım - ") + Metin(İleti::ProgramAdı) + u' ' + SürümMetni();
         tekÖrnek.emplace(AnaPencereBaşlığı);
         if (tekÖrnek->BaşkasıVar())
             return 0;
         tekÖrnek->ÖneÇağrıldı = &kutuyuÖneGetir;
-        AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(5);
+        AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(İleti::ProgramAdı);
         ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
         uygulama.setWindowIcon(ProgramSimgesi());
 

@@ -30,17 +30,16 @@ std::optional<SürümBilgisi> SürümBilgisiAl()
     return sürüm;
 }
 
-int SürümReddi(const std::optional<SürümBilgisi>& sürüm)
+SürümDurumu SürümüDeğerlendir(const std::optional<SürümBilgisi>& sürüm)
 {
-    constexpr int yanıtYok = 25, eskiNT = 30;
     if (!sürüm)
-        return yanıtYok;
+        return SürümDurumu::YanıtYok;
     if (sürüm->Platform != NT || sürüm->Ana > NTSürümü)
-        return 0;
-    if (sürüm->Ana < NTSürümü)
-        return eskiNT;
+        return SürümDurumu::Uygun;
     const QString paket = sürüm->ServisPaketi.section(QChar(u'\0'), 0, 0);
-    return paket == QLatin1String("Service Pack 1") || paket == QLatin1String("Service Pack 2") ? eskiNT : 0;
+    const bool eski = sürüm->Ana < NTSürümü || paket == QLatin1String("Service Pack 1") ||
+                      paket == QLatin1String("Service Pack 2");
+    return eski ? SürümDurumu::Eski : SürümDurumu::Uygun;
 }
 
 bool DosyaVar(const QString& yol)

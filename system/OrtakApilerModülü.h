@@ -19,9 +19,15 @@ struct SürümBilgisi
 /// Nothing when the system does not answer.
 std::optional<SürümBilgisi> SürümBilgisiAl();
 
-/// The number of the text that refuses to start on such a system, 0 where the program runs: on any that
-/// answers but NT before 4.0 and NT 4.0 with service pack 1 or 2.
-int SürümReddi(const std::optional<SürümBilgisi>& sürüm);
+/// Whether the program runs on such a system: on any that answers but NT before 4.0 and NT 4.0 with service
+/// pack 1 or 2.
+enum class SürümDurumu
+{
+    Uygun,
+    YanıtYok,
+    Eski
+};
+SürümDurumu SürümüDeğerlendir(const std::optional<SürümBilgisi>& sürüm);
 
 /// Whether there is a file or folder at the path.
 bool DosyaVar(const QString& yol);

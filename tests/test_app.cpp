@@ -17,18 +17,18 @@ class TestApp : public QObject
 private slots:
     void systemVersion()
     {
-        const auto refusal = [](quint32 platform, quint32 major, const QString& pack = {}) {
-            return SürümReddi(SürümBilgisi{major, 0, platform, pack});
+        const auto state = [](quint32 platform, quint32 major, const QString& pack = {}) {
+            return SürümüDeğerlendir(SürümBilgisi{major, 0, platform, pack});
         };
-        QCOMPARE(SürümReddi({}), 25);
-        QCOMPARE(refusal(0, 3), 0); // not NT
-        QCOMPARE(refusal(2, 3, u"Service Pack 5"_s), 30);
-        QCOMPARE(refusal(2, 4), 0);
-        QCOMPARE(refusal(2, 4, u"Service Pack 1"_s), 30);
-        QCOMPARE(refusal(2, 4, u"Service Pack 2"_s + QChar(u'\0') + u'x'), 30);
-        QCOMPARE(refusal(2, 4, u"Service Pack 3"_s), 0);
-        QCOMPARE(refusal(2, 10, u"Service Pack 1"_s), 0);
-        QCOMPARE(SürümReddi(SürümBilgisiAl()), 0);
+        QCOMPARE(SürümüDeğerlendir({}), SürümDurumu::YanıtYok);
+        QCOMPARE(state(0, 3), SürümDurumu::Uygun); // not NT
+        QCOMPARE(state(2, 3, u"Service Pack 5"_s), SürümDurumu::Eski);
+        QCOMPARE(state(2, 4), SürümDurumu::Uygun);
+        QCOMPARE(state(2, 4, u"Service Pack 1"_s), SürümDurumu::Eski);
+        QCOMPARE(state(2, 4, u"Service Pack 2"_s + QChar(u'\0') + u'x'), SürümDurumu::Eski);
+        QCOMPARE(state(2, 4, u"Service Pack 3"_s), SürümDurumu::Uygun);
+        QCOMPARE(state(2, 10, u"Service Pack 1"_s), SürümDurumu::Uygun);
+        QCOMPARE(SürümüDeğerlendir(SürümBilgisiAl()), SürümDurumu::Uygun);
     }
     void displayMaps()
     {

@@ -98,7 +98,7 @@ private slots:
         QTest::addColumn<QString>("addresses");
         QTest::newRow("HakkındaMenüsü") << u"Hakkında|Belgenar Programı|Sürüm 1.00"_s << Site;
         QTest::newRow("HatalarıBildirinMenüsü")
-            << u"Hataları Bildirin!|Hataları Bildirin!|"_s + Metin(515)
+            << u"Hataları Bildirin!|Hataları Bildirin!|"_s + Metin(İleti::HataBildirmeAçıklaması)
             << u"mailto:destek@tepsan.example|"_s + Site + u"/asp/mesaj/mesaj.asp?ProgramAdi=Belgenar"_s;
     }
     void windows()

@@ -95,7 +95,7 @@ private slots:
     void startRefused();
     void composing()
     {
-        QCOMPARE(HataMetni(10, Hata(u"%1\nx"_s, 3026)),
+        QCOMPARE(HataMetni(İleti::ProgramDevamEdemiyor, Hata(u"%1\nx"_s, 3026)),
                  u"Aşağıdaki hata nedeniyle program devam edemiyor!\r\n\r\nHata Kodu: 3026\r\n\r\n"
                  u"Hata Mesajı: %1\nx"_s);
         QCOMPARE(OrtalıYer({10, 10, 20, 20}, {40, 40}), QPoint(0, 0));
