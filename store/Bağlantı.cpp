@@ -3,6 +3,7 @@
 #include "store/BenzerDeseni.h"
 #include "store/DosyaTanıma.h"
 #include "store/SistemHatası.h"
+#include "store/Utf8Metni.h"
 #include "text/TürkçeSıralama.h"
 
 #define SQLITE_HAS_CODEC
@@ -162,14 +163,6 @@ void boşDosyaOluştur(const QString& yol)
 }
 
 } // namespace
-
-QString Utf8Metni(std::string_view utf8)
-{
-    QString metin = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    if (utf8.starts_with("\xef\xbb\xbf")) // Qt takes it for a byte order mark
-        metin.prepend(QChar::ByteOrderMark);
-    return metin;
-}
 
 void Bağlantı::Kapatıcı::operator()(sqlite3* db) const noexcept
 {

@@ -40,9 +40,6 @@ enum class AçmaKipi
     Oluştur
 };
 
-/// The text whose UTF-8 form is stored. A mark at its beginning (U+FEFF) belongs to it.
-QString Utf8Metni(std::string_view utf8);
-
 /// An open encrypted file. Owned by whoever opened it; closes the file when destroyed. Not thread-safe.
 class Bağlantı
 {

@@ -1,6 +1,6 @@
 #include "store/BenzerDeseni.h"
 
-#include "store/Bağlantı.h"
+#include "store/Utf8Metni.h"
 #include "text/TürkçeHarfler.h"
 
 #include <algorithm>

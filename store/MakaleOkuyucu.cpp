@@ -2,6 +2,7 @@
 
 #include "store/Bağlantı.h"
 #include "store/Database.h"
+#include "store/Utf8Metni.h"
 #include "text/TürkçeSıralama.h"
 
 #include <algorithm>

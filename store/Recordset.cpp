@@ -1,6 +1,7 @@
 #include "store/Recordset.h"
 
 #include "store/Bağlantı.h"
+#include "store/Utf8Metni.h"
 
 #include <QByteArrayList>
 #include <QRegularExpression>

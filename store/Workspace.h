@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/Database.h"
+#include "store/User.h"
 
 #include <QString>
 
@@ -10,22 +11,6 @@
 
 class Bağlantı;
 class ÇalışmaGrubu;
-
-/// An account: the data to append to Users, or what Users tells about one (then without its password).
-class User
-{
-public:
-    explicit User(const QString& ad) : ad_(ad) {}
-
-    const QString& Name() const { return ad_; }
-    const QString& PID() const { return pid_; }
-    void PID(const QString& pid) { pid_ = pid; }
-    const QString& Password() const { return parola_; }
-    void Password(const QString& parola) { parola_ = parola; }
-
-private:
-    QString ad_, pid_, parola_;
-};
 
 /// The accounts of a workspace's workgroup file. Must not outlive the workspace.
 class UserCollection

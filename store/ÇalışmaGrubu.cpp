@@ -1,7 +1,7 @@
 #include "store/ÇalışmaGrubu.h"
 
 #include "store/DosyaTanıma.h"
-#include "store/Workspace.h"
+#include "store/User.h"
 
 #include <QCryptographicHash>
 #include <QMessageAuthenticationCode>
