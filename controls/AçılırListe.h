@@ -1,7 +1,7 @@
 // The drop-down list, with or without a field to type in.
 #pragma once
 
-#include "controls/TuşSüzgeci.h"
+#include "controls/TuşOlaylı.h"
 
 #include <QComboBox>
 #include <QString>

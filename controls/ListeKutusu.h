@@ -1,7 +1,7 @@
 // The list box.
 #pragma once
 
-#include "controls/TuşSüzgeci.h"
+#include "controls/TuşOlaylı.h"
 
 #include <QListView>
 #include <QString>

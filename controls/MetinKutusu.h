@@ -1,7 +1,7 @@
 // The single-line text box.
 #pragma once
 
-#include "controls/TuşSüzgeci.h"
+#include "controls/TuşOlaylı.h"
 
 #include <QLineEdit>
 

@@ -1,12 +1,10 @@
 #include "controls/OdakEtiketi.h"
 
-#include "app/HataPolitikaları.h"
+#include "app/Görünüm.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
-#include <QMenuBar>
 
 namespace {
 
@@ -18,17 +16,22 @@ QLineEdit& yazıKutusu(QWidget& kontrol)
 
 } // namespace
 
-OdakEtiketi::OdakEtiketi()
+void OdakEtiketi::Bağla(QWidget& kontrol, QLabel& etiket, Giriş giriş)
 {
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget*, QWidget* kontrol) { odakDeğişti(kontrol); });
-}
-
-void OdakEtiketi::Bağla(QWidget& kontrol, QLabel& etiket, Giriş giriş, std::function<void()> çıkış)
-{
-    bağlar_.insert(&kontrol, {&etiket, giriş, std::move(çıkış)});
-    pencere_ = kontrol.window();
-    pencere_->installEventFilter(this);
+    gözcü_.İzle(
+        kontrol,
+        [this, &kontrol, &etiket, giriş] {
+            etiket_ = &etiket;
+            boya(Ton::Mavi);
+            if (giriş == Giriş::TümünüSeç) // after the press that brought the focus has placed the caret
+                QMetaObject::invokeMethod(
+                    &kontrol, [&kontrol] { yazıKutusu(kontrol).selectAll(); }, Qt::QueuedConnection);
+        },
+        [this] {
+            boya(Ton::Olağan);
+            etiket_ = nullptr;
+        });
+    kontrol.window()->installEventFilter(this);
 }
 
 bool OdakEtiketi::eventFilter(QObject*, QEvent* olay)
@@ -40,45 +43,16 @@ bool OdakEtiketi::eventFilter(QObject*, QEvent* olay)
     return false;
 }
 
-// Once the window is back, the focus may be elsewhere than it was when it went.
-void OdakEtiketi::odakDeğişti(QWidget* kontrol)
-{
-    if (!kontrol || kontrol->window() != pencere_ || kontrol == odaklı_ || qobject_cast<QMenuBar*>(kontrol))
-        return;
-    Ayrıl();
-    if (bağlar_.contains(kontrol))
-        odakGeldi(*kontrol);
-}
-
-void OdakEtiketi::odakGeldi(QWidget& kontrol)
-{
-    odaklı_ = &kontrol;
-    boya(Ton::Mavi);
-    if (bağlar_[&kontrol].giriş ==
-        Giriş::TümünüSeç) // after the press that brought the focus has placed the caret
-        QMetaObject::invokeMethod(
-            &kontrol, [&kontrol] { yazıKutusu(kontrol).selectAll(); }, Qt::QueuedConnection);
-}
-
 void OdakEtiketi::boya(Ton ton)
 {
-    if (!odaklı_)
+    if (!etiket_)
         return;
-    QLabel& etiket = *bağlar_[odaklı_].etiket;
     QPalette palet;
     if (ton == Ton::Mavi) {
-        palet = etiket.palette();
+        palet = etiket_->palette();
         const QColor mavi = OkunurTon(EkranRengi(OdakMavisi, palet), palet.color(QPalette::Window));
         palet.setColor(QPalette::Active, QPalette::WindowText, mavi);
         palet.setColor(QPalette::Inactive, QPalette::WindowText, mavi);
     }
-    etiket.setPalette(palet);
-}
-
-void OdakEtiketi::Ayrıl()
-{
-    boya(Ton::Olağan);
-    QWidget* kontrol = std::exchange(odaklı_, nullptr);
-    if (kontrol && bağlar_[kontrol].çıkış)
-        AdımAdım(bağlar_[kontrol].çıkış);
+    etiket_->setPalette(palet);
 }

@@ -1,6 +1,7 @@
 #include "controls/TuşSüzgeci.h"
 
 #include "app/HataPolitikaları.h"
+#include "controls/TuşOlaylı.h"
 #include "text/TürkçeHarfler.h"
 
 #include <QCoreApplication>

@@ -1,20 +1,7 @@
 // What the entry and find boxes do to typed characters, each rule once.
 #pragma once
 
-#include <QInputMethodEvent>
-#include <QKeyEvent>
-#include <QString>
-
-#include <functional>
-
 class QWidget;
-
-struct TuşKodları // no namespace: moc can't read one with such a name
-{
-    static constexpr char16_t Enter = 13;
-    static constexpr char16_t Kesme = 39;
-    static constexpr char16_t Aksan = 180; ///< the acute accent, which breaks no query
-};
 
 /// Enter goes to the next control, as the Tab key does, and is swallowed (becomes 0).
 void EnterSekmeOlsun(QWidget& kontrol, char16_t& kod);
@@ -26,60 +13,3 @@ void HarfBüyüsün(char16_t& kod);
 void KutuSüzgeci(QWidget& kontrol, char16_t& kod);
 /// All three in this order: for boxes that hold authors and titles.
 void BüyükHarfliKutuSüzgeci(QWidget& kontrol, char16_t& kod);
-
-/// Gives a widget the event KeyPress, fired for each typed character, which the handler may replace or
-/// swallow (0). What is pasted is not typed and passes as it is.
-template<class Taban> class TuşOlaylı : public Taban
-{
-public:
-    using Taban::Taban;
-
-    std::function<void(char16_t& kod)> KeyPress;
-
-protected:
-    void keyPressEvent(QKeyEvent* olay) override
-    {
-        const QString yazılan = olay->text();
-        const auto ekTuşlar = olay->modifiers() & (Qt::AltModifier | Qt::ControlModifier);
-        if (ekTuşlar == Qt::AltModifier && !yazılan.isEmpty() && yazılan[0].isPrint()) {
-            olay->ignore(); // a mnemonic that nothing took types nothing
-            return;
-        }
-        const bool karakter =
-            !yazılan.isEmpty() &&
-            (yazılan[0].isPrint() || yazılan[0] == QChar(TuşKodları::Enter) || yazılan[0].isSurrogate());
-        if (!KeyPress || !karakter) {
-            Taban::keyPressEvent(olay);
-            return;
-        }
-        const QString süzülen = süz(yazılan);
-        if (süzülen == yazılan) {
-            Taban::keyPressEvent(olay);
-        } else if (!süzülen.isEmpty()) {
-            QKeyEvent yeni(olay->type(), 0, olay->modifiers(), süzülen, olay->isAutoRepeat());
-            Taban::keyPressEvent(&yeni);
-        }
-    }
-
-    // Composed letters (dead keys, input methods) come this way.
-    void inputMethodEvent(QInputMethodEvent* olay) override
-    {
-        if (KeyPress && !olay->commitString().isEmpty())
-            olay->setCommitString(süz(olay->commitString()), olay->replacementStart(),
-                                  olay->replacementLength());
-        Taban::inputMethodEvent(olay);
-    }
-
-private:
-    QString süz(const QString& yazılan)
-    {
-        QString süzülen;
-        for (const QChar harf : yazılan) {
-            char16_t kod = harf.unicode();
-            KeyPress(kod);
-            if (kod != 0)
-                süzülen += QChar(kod);
-        }
-        return süzülen;
-    }
-};

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/Görünüm.h"
-#include "controls/TuşSüzgeci.h"
+#include "controls/TuşOlaylı.h"
 #include "document/BiçimliMetin.h"
 
 #include <QList>

@@ -6,6 +6,7 @@
 #include "controls/MetinKutusu.h"
 #include "controls/OdakEtiketi.h"
 #include "controls/ZenginMetinKutusu.h"
+#include "forms/AnaPencere.h"
 #include "store/Recordset.h"
 
 #include <QAction>
@@ -40,7 +41,7 @@ enum class PencereDurumu
 
 /// The only main window; made by the start-up after the library was opened, lives until the program's
 /// end. All its handlers run on the user-interface thread. Sizes are twips.
-class AnaForm : public QMainWindow
+class AnaForm : public QMainWindow, public AnaPencere
 {
 public:
     /// Outer width and height that the window never goes below; more with larger letters.
@@ -57,16 +58,10 @@ public:
     /// Whether the exit sequence has run; the event loop need not be entered then.
     bool Bitti() const { return bitti_; }
 
-    /// Refills the author list from the library; an empty table leaves the list as it is.
-    void YazarListesiYükle();
-
-    /// The title selected in the article list, "" when there is none.
-    QString SeçiliMakale() const { return MakaleListesi.Text(); }
-    /// Empties the article list and the text: what is shown must belong to what is selected.
-    void MakaleleriBoşalt();
-
-    /// Gives the article text the font, size and background that are in force now.
-    void GörünümüUygula();
+    void YazarListesiYükle() override;
+    QString SeçiliMakale() const override { return MakaleListesi.Text(); }
+    void MakaleleriBoşalt() override;
+    void GörünümüUygula() override;
 
     enum class Eksen
     {

@@ -5,6 +5,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "controls/TuşSüzgeci.h"
 #include "system/OrtakApilerModülü.h"
 #include "text/TürkçeArama.h"
 

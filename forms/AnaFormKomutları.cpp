@@ -51,7 +51,7 @@ void AnaForm::MakeleDeğiştirMenüsü_Click()
         }
         DeğiştirilenYazarAdı.clear();
         DeğiştirilenMakaleBaşlığı.clear();
-        DeğiştirFormu(*this).exec();
+        DeğiştirFormu(*this, *this).exec();
         if (!bitti_ && !DeğiştirilenYazarAdı.isEmpty())
             değişeniSeç();
     });
@@ -71,7 +71,7 @@ void AnaForm::değişeniSeç()
 void AnaForm::MakaleSilMenüsü_Click()
 {
     AdımAdım([this] {
-        SilFormu form(*this);
+        SilFormu form(*this, *this);
         if (!SeçiliMakale().isEmpty())
             form.Seç(SeçiliMakale());
         form.exec();

@@ -5,6 +5,7 @@
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"
 #include "app/PencereYeri.h"
+#include "forms/AnaFormDüzeni.h"
 #include "system/EkranÖlçüsü.h"
 
 #include <QMoveEvent>
@@ -13,32 +14,7 @@
 
 namespace {
 
-// Design places of what does not move, and sizes of what does.
-constexpr int SolKenar = 300;
-constexpr int ÜstKenar = 180;
-constexpr int EtiketYüksekliği = 255;
-constexpr int EtiketGenişliği = 1695;
-constexpr int KutuYüksekliği = 345;
-constexpr int ListeÜstü = 465;
-constexpr int YazarListesiYüksekliği = 1305; // five whole entries
-constexpr int YazarBulEtiketiÜstü = 1800;
-constexpr int YazarBulKutusuÜstü = 2055;
-constexpr int MakaleEtiketiÜstü = 2445;
-constexpr int MakaleListesiÜstü = 2715;
-constexpr int ToplamGenişliği = 1155 + SolKenar; // ends where the list ends
-constexpr int BulKutusuGenişliği = 1690;
-constexpr int BulButonuGenişliği = 1140;
-constexpr int TümündeBulGenişliği = 1365;
-constexpr int ÇıkışGenişliği = 1115;
-constexpr int DüğmeYüksekliği = 345;
-constexpr int YüksekDüğmeYüksekliği = 400 + DüğmeYüksekliği;
-
 constexpr int SağTaşmaPayı = 100; // how far the window may stick out of the screen
-
-struct Kutu
-{
-    int sol, üst, genişlik, yükseklik;
-};
 
 void koy(QWidget& kontrol, const Kutu& kutu)
 {
@@ -58,68 +34,22 @@ void etiketiKoy(QLabel& etiket, const Kutu& kutu)
 
 void AnaForm::yerleştir(int genişlik, int yükseklik)
 {
-    Kutu etiket[6] = {{SolKenar, ÜstKenar, EtiketGenişliği, EtiketYüksekliği},
-                      {SolKenar, YazarBulEtiketiÜstü, EtiketGenişliği, EtiketYüksekliği},
-                      {SolKenar, MakaleEtiketiÜstü, EtiketGenişliği, EtiketYüksekliği},
-                      {SolKenar, 0, EtiketGenişliği, EtiketYüksekliği},
-                      {0, ÜstKenar, EtiketGenişliği, EtiketYüksekliği},
-                      {0, 0, EtiketGenişliği, EtiketYüksekliği}};
-    Kutu yazarListesi = {0, 0, 0, YazarListesiYüksekliği}; // within Altlık
-    Kutu altlık = {SolKenar, ListeÜstü, 0, YazarListesiYüksekliği};
-    Kutu yazarBul = {SolKenar, YazarBulKutusuÜstü, 0, KutuYüksekliği};
-    Kutu makaleBul = {SolKenar, 0, 0, KutuYüksekliği};
-    Kutu metin = {0, ListeÜstü, 0, 0};
-    Kutu makaleListesi = {SolKenar, MakaleListesiÜstü, 0, 0};
-    Kutu bulKutusu = {0, 0, BulKutusuGenişliği, KutuYüksekliği};
-    Kutu bul = {0, 0, BulButonuGenişliği, DüğmeYüksekliği};
-    Kutu temizle = {0, 0, BulButonuGenişliği, DüğmeYüksekliği};
-    Kutu tümünde = {0, 0, TümündeBulGenişliği, YüksekDüğmeYüksekliği};
-    Kutu çıkış = {0, 0, ÇıkışGenişliği, YüksekDüğmeYüksekliği};
-    Kutu yazarToplamı = {0, ÜstKenar, ToplamGenişliği, EtiketYüksekliği};
-    Kutu makaleToplamı = {0, MakaleEtiketiÜstü, ToplamGenişliği, EtiketYüksekliği};
-
-    yazarListesi.genişlik = genişlik / 3;
-    altlık.genişlik = yazarListesi.genişlik;
-    yazarBul.genişlik = yazarListesi.genişlik;
-    etiket[3].üst = yükseklik - 1790;
-    makaleBul.üst = etiket[3].üst + 300;
-    makaleBul.genişlik = yazarBul.genişlik;
-    metin.genişlik = genişlik - (yazarListesi.genişlik + 940);
-    metin.sol = yazarListesi.genişlik + 495;
-    makaleListesi.genişlik = genişlik / 3;
-    makaleListesi.yükseklik = yükseklik - 4605;
-    metin.yükseklik = makaleListesi.yükseklik + 2250;
-    etiket[4].sol = metin.sol;
-    etiket[5].sol = etiket[4].sol;
-    bulKutusu.sol = etiket[5].sol;
-    etiket[5].üst = etiket[3].üst;
-    bulKutusu.üst = makaleBul.üst;
-    bul.sol = etiket[5].sol + 1780;
-    bul.üst = etiket[5].üst + 40;
-    temizle.sol = bul.sol;
-    temizle.üst = bul.üst + 400;
-    tümünde.sol = bul.sol + 1220;
-    tümünde.üst = bul.üst;
-    çıkış.sol = genişlik - 1560;
-    çıkış.üst = tümünde.üst;
-    yazarToplamı.sol = yazarListesi.genişlik - 1155;
-    makaleToplamı.sol = yazarToplamı.sol;
-
-    koy(Altlık, altlık);
-    koy(YazarListesi, yazarListesi);
-    koy(YazarBulKutusu, yazarBul);
-    koy(MakaleListesi, makaleListesi);
-    koy(MakaleBulKutusu, makaleBul);
-    koy(MakaleMetniKutusu, metin);
-    koy(BulKutusu, bulKutusu);
-    koy(BulButonu, bul);
-    koy(TemizleButonu, temizle);
-    koy(TümündeBulButonu, tümünde);
-    koy(ÇıkışButonu, çıkış);
-    etiketiKoy(ToplamYazarSayısıEtiketi, yazarToplamı);
-    etiketiKoy(ToplamMakaleSayısıEtiketi, makaleToplamı);
+    const AnaFormDüzeni düzen = AnaFormDüzeni::Hesapla(genişlik, yükseklik);
+    koy(Altlık, düzen.Altlık);
+    koy(YazarListesi, düzen.YazarListesi);
+    koy(YazarBulKutusu, düzen.YazarBulKutusu);
+    koy(MakaleListesi, düzen.MakaleListesi);
+    koy(MakaleBulKutusu, düzen.MakaleBulKutusu);
+    koy(MakaleMetniKutusu, düzen.MakaleMetniKutusu);
+    koy(BulKutusu, düzen.BulKutusu);
+    koy(BulButonu, düzen.BulButonu);
+    koy(TemizleButonu, düzen.TemizleButonu);
+    koy(TümündeBulButonu, düzen.TümündeBulButonu);
+    koy(ÇıkışButonu, düzen.ÇıkışButonu);
+    etiketiKoy(ToplamYazarSayısıEtiketi, düzen.ToplamYazarSayısıEtiketi);
+    etiketiKoy(ToplamMakaleSayısıEtiketi, düzen.ToplamMakaleSayısıEtiketi);
     for (std::size_t i = 0; i < Etiket.size(); ++i)
-        etiketiKoy(Etiket[i], etiket[i]);
+        etiketiKoy(Etiket[i], düzen.Etiket[i]);
 }
 
 QSize AnaForm::enAzBoy()

@@ -6,7 +6,7 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "controls/Etiketler.h"
 #include "controls/YazıTipleriModülü.h"
-#include "forms/AnaForm.h"
+#include "forms/AnaPencere.h"
 #include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
 
@@ -27,7 +27,7 @@ QString aileAdıKatla(const QString& ad)
 
 } // namespace
 
-AyarlarFormu::AyarlarFormu(AnaForm& anaForm) : anaForm_(anaForm)
+AyarlarFormu::AyarlarFormu(AnaPencere& ana) : ana_(ana)
 {
     setObjectName(QStringLiteral("AyarlarFormu"));
     setFont(FormYazıTipi());
@@ -176,7 +176,7 @@ void AyarlarFormu::TamamButonu_Click()
     MakaleYazıTipi = YazıTipiListesi.Text();
     YazıBoyutuSırası = seçiliSıra(YazıTipiBoyutuListesi);
     ZeminRengiSırası = seçiliSıra(ZeminRengiListesi);
-    AdımAdım([this] { anaForm_.GörünümüUygula(); }, [] { AyarYaz(Ayarlar::YazıTipi, MakaleYazıTipi); },
+    AdımAdım([this] { ana_.GörünümüUygula(); }, [] { AyarYaz(Ayarlar::YazıTipi, MakaleYazıTipi); },
              [] { AyarYaz(Ayarlar::YazıBoyutu, YazıBoyutuSırası); },
              [] { AyarYaz(Ayarlar::ZeminRengi, ZeminRengiSırası); });
     accept();

@@ -13,14 +13,14 @@
 
 #include <array>
 
-class AnaForm;
+class AnaPencere;
 
 /// Made for one showing. Changes nothing until its OK button is pressed, which can be done after a choice
 /// only.
 class AyarlarFormu : public QDialog
 {
 public:
-    explicit AyarlarFormu(AnaForm& anaForm);
+    explicit AyarlarFormu(AnaPencere& ana);
 
 private:
     void kontrolleriKur();
@@ -37,7 +37,7 @@ private:
     void yazıTipiniSeç(const QString& ad);
     static qint16 seçiliSıra(const AçılırListe& liste) { return static_cast<qint16>(liste.ListIndex()); }
 
-    AnaForm& anaForm_;
+    AnaPencere& ana_;
     QFrame Altlık;
     QGroupBox Çerçeve;
     std::array<QLabel, 3> Etiket;

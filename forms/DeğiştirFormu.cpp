@@ -2,7 +2,7 @@
 
 #include "app/HataPolitikaları.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "forms/AnaForm.h"
+#include "forms/AnaPencere.h"
 
 #include <QKeyEvent>
 
@@ -18,8 +18,8 @@ void sığdır(MetinKutusu& kutu, const QString& metin)
 
 } // namespace
 
-DeğiştirFormu::DeğiştirFormu(AnaForm& anaForm)
-    : MakaleGirişFormu(&anaForm, anaForm,
+DeğiştirFormu::DeğiştirFormu(QWidget& sahip, AnaPencere& ana)
+    : MakaleGirişFormu(&sahip, ana,
                        {.Pencere = QStringLiteral("DeğiştirFormu"),
                         .Başlık = İleti::DeğiştirmeBaşlığı,
                         .Kaydet = QStringLiteral("KaydetDüğmesi"),
@@ -29,8 +29,8 @@ DeğiştirFormu::DeğiştirFormu(AnaForm& anaForm)
                         .KaydetYazısı = İleti::Kaydet,
                         .VazgeçYazısı = İleti::Vazgeç})
 {
-    basılınca(KaydetDüğmesi, [this] { KaydetDüğmesi_Click(); });
-    basılınca(VazgeçDüğmesi, [this] { VazgeçDüğmesi_Click(); });
+    basılınca(kaydet_, [this] { KaydetDüğmesi_Click(); });
+    basılınca(vazgeç_, [this] { VazgeçDüğmesi_Click(); });
     Form_Load();
 }
 
@@ -51,7 +51,7 @@ void DeğiştirFormu::Form_Load()
 Recordset DeğiştirFormu::seçiliMakale() const
 {
     return Veritabanı->OpenRecordset(QStringLiteral("SELECT * FROM Makaleler WHERE MakaleBasligi= '") +
-                                     anaForm_.SeçiliMakale() + u'\'');
+                                     ana_.SeçiliMakale() + u'\'');
 }
 
 void DeğiştirFormu::KaydetDüğmesi_Click()
@@ -63,7 +63,7 @@ void DeğiştirFormu::KaydetDüğmesi_Click()
     girilen().Yaz(kayıtlar);
     kayıtlar.Update();
     kayıtlar.Close();
-    anaForm_.YazarListesiYükle();
+    ana_.YazarListesiYükle();
     DeğiştirilenYazarAdı = YazarAdıListesi.Text();
     DeğiştirilenMakaleBaşlığı = MakaleBaşlığıKutusu.Text();
     accept();
@@ -78,7 +78,7 @@ void DeğiştirFormu::VazgeçDüğmesi_Click()
 void DeğiştirFormu::keyPressEvent(QKeyEvent* olay)
 {
     if (olay->key() == Qt::Key_Escape)
-        VazgeçDüğmesi.setFocus();
+        vazgeç_.setFocus();
     else
         MakaleGirişFormu::keyPressEvent(olay);
 }

@@ -8,7 +8,7 @@
 class DeğiştirFormu : public MakaleGirişFormu
 {
 public:
-    explicit DeğiştirFormu(AnaForm& anaForm);
+    DeğiştirFormu(QWidget& sahip, AnaPencere& ana);
 
 protected:
     void keyPressEvent(QKeyEvent* olay) override;
@@ -19,7 +19,4 @@ private:
     void VazgeçDüğmesi_Click();
     /// The selected article; the first one where several have its title.
     Recordset seçiliMakale() const;
-
-    Düğme& KaydetDüğmesi = kaydet_;
-    Düğme& VazgeçDüğmesi = vazgeç_;
 };

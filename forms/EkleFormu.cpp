@@ -3,7 +3,7 @@
 #include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
-#include "forms/AnaForm.h"
+#include "forms/AnaPencere.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -15,8 +15,8 @@ constexpr int MetinBoyutu = 8; // points
 
 } // namespace
 
-EkleFormu::EkleFormu(AnaForm& anaForm)
-    : MakaleGirişFormu(nullptr, anaForm,
+EkleFormu::EkleFormu(AnaPencere& ana)
+    : MakaleGirişFormu(nullptr, ana,
                        {.Pencere = QStringLiteral("EkleFormu"),
                         .Başlık = İleti::EklemeBaşlığı,
                         .Kaydet = QStringLiteral("EkleKaydetButonu"),
@@ -26,8 +26,8 @@ EkleFormu::EkleFormu(AnaForm& anaForm)
                         .KaydetYazısı = İleti::MakaleEkle,
                         .VazgeçYazısı = İleti::Kapat})
 {
-    basılınca(EkleKaydetButonu, [this] { EkleKaydetButonu_Click(); });
-    basılınca(İptalKapatButonu, [this] { İptalKapatButonu_Click(); });
+    basılınca(kaydet_, [this] { EkleKaydetButonu_Click(); });
+    basılınca(vazgeç_, [this] { İptalKapatButonu_Click(); });
     Form_Load();
 }
 
@@ -36,15 +36,15 @@ void EkleFormu::Form_Load()
     düğmeleriKilitle();
     alanlarıKilitle();
     İlkHatadaBit([this] { yazarlarıYükle(QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler]")); });
-    EkleKaydetButonu.setFocus();
+    kaydet_.setFocus();
 }
 
 void EkleFormu::düğmeleriKilitle()
 {
-    DosyaYükleButonu.setEnabled(false);
-    YapıştırButonu.setEnabled(false);
-    EkleKaydetButonu.setText(Metin(İleti::MakaleEkle));
-    İptalKapatButonu.setText(Metin(İleti::Kapat));
+    dosyaYükle_.setEnabled(false);
+    yapıştır_.setEnabled(false);
+    kaydet_.setText(Metin(İleti::MakaleEkle));
+    vazgeç_.setText(Metin(İleti::Kapat));
 }
 
 void EkleFormu::EkleKaydetButonu_Click()
@@ -58,12 +58,12 @@ void EkleFormu::EkleKaydetButonu_Click()
 void EkleFormu::girişeBaşla()
 {
     alanlarıAç();
-    DosyaYükleButonu.setEnabled(true);
+    dosyaYükle_.setEnabled(true);
     MakaleMetniKutusu.setFont(FormYazıTipi());
     MakaleMetniKutusu.FontSize(MetinBoyutu);
-    YapıştırButonu.setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
-    EkleKaydetButonu.setText(Metin(İleti::Kaydet));
-    İptalKapatButonu.setText(Metin(İleti::İptal));
+    yapıştır_.setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
+    kaydet_.setText(Metin(İleti::Kaydet));
+    vazgeç_.setText(Metin(İleti::İptal));
     yeniKayıt();
     YazarAdıListesi.setFocus();
 }
@@ -76,7 +76,7 @@ void EkleFormu::kaydet()
     girilen().Yaz(*eklenen_);
     eklenen_->Update();
     eklenen_.reset();
-    anaForm_.YazarListesiYükle();
+    ana_.YazarListesiYükle();
     alanlarıBoşalt();
     alanlarıKilitle();
 }

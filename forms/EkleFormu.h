@@ -9,7 +9,7 @@
 class EkleFormu : public MakaleGirişFormu
 {
 public:
-    explicit EkleFormu(AnaForm& anaForm);
+    explicit EkleFormu(AnaPencere& ana);
 
     /// Whether an entry has been begun and neither saved nor given up.
     bool GirişDurumunda() const { return YazarAdıListesi.isEnabled(); }
@@ -29,9 +29,5 @@ private:
     void alanlarıBoşalt();
     void alanlarıKilitle();
 
-    Düğme& EkleKaydetButonu = kaydet_;
-    Düğme& İptalKapatButonu = vazgeç_;
-    Düğme& YapıştırButonu = yapıştır_;
-    Düğme& DosyaYükleButonu = dosyaYükle_;
     std::optional<Recordset> eklenen_; // the pending record; only in the entry state
 };

@@ -7,6 +7,7 @@
 #include "app/İletiKutusu.h"
 #include "controls/DosyaSorucu.h"
 #include "controls/Etiketler.h"
+#include "controls/TuşSüzgeci.h"
 #include "document/MetinDosyası.h"
 #include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
@@ -40,8 +41,8 @@ QString başlangıçKlasörü()
 
 } // namespace
 
-MakaleGirişFormu::MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adlar& adlar)
-    : QDialog(sahip), anaForm_(anaForm)
+MakaleGirişFormu::MakaleGirişFormu(QWidget* sahip, AnaPencere& ana, const Adlar& adlar)
+    : QDialog(sahip), ana_(ana)
 {
     setObjectName(adlar.Pencere);
     setFont(FormYazıTipi());
@@ -144,8 +145,8 @@ void MakaleGirişFormu::odaklarıBağla()
         QWidget* alan = alanlar()[i];
         odakEtiketi_.Bağla(*alan, Etiket[i],
                            alan == &MakaleMetniKutusu ? OdakEtiketi::Giriş::Olduğu
-                                                      : OdakEtiketi::Giriş::TümünüSeç,
-                           [this, alan] { alanıDüzelt(*alan); });
+                                                      : OdakEtiketi::Giriş::TümünüSeç);
+        odakGözcüsü_.İzle(*alan, {}, [this, alan] { alanıDüzelt(*alan); });
     }
 }
 
@@ -187,6 +188,7 @@ void MakaleGirişFormu::yazarlarıYükle(const QString& sorgu)
 bool MakaleGirişFormu::alanlarTamam()
 {
     odakEtiketi_.Ayrıl();
+    odakGözcüsü_.Ayrıl();
     struct Kural
     {
         bool eksik;

@@ -17,7 +17,7 @@
 #include <array>
 #include <functional>
 
-class AnaForm;
+class AnaPencere;
 
 /// A modal window with the fields, two buttons that fill the article text, and two that end the entry;
 /// what those do is the derived window's. Lives while it is shown.
@@ -32,7 +32,7 @@ protected:
         QString Kaydet, Vazgeç, Yapıştır, DosyaYükle;
         İleti KaydetYazısı, VazgeçYazısı;
     };
-    MakaleGirişFormu(QWidget* sahip, AnaForm& anaForm, const Adlar& adlar);
+    MakaleGirişFormu(QWidget* sahip, AnaPencere& ana, const Adlar& adlar);
 
     /// Ties a button to what it does, whoever presses it: a hand, or a screen reader, which leaves the focus
     /// where it is. An error ends it silently.
@@ -49,7 +49,7 @@ protected:
     /// The five fields in the order of their labels.
     std::array<QWidget*, 5> alanlar();
 
-    AnaForm& anaForm_;
+    AnaPencere& ana_;
     std::array<QLabel, 5> Etiket;
     AçılırListe YazarAdıListesi{AçılırListe::Tür::Yazılabilir};
     MetinKutusu MakaleBaşlığıKutusu, YayımYeriKutusu, YayımTarihiKutusu;
@@ -74,5 +74,6 @@ private:
     static bool tarihiSor();
 
     OdakEtiketi odakEtiketi_;
+    OdakGözcüsü odakGözcüsü_;
     AyrılışDenetimi tarihDenetimi_{YayımTarihiKutusu, [this] { return tarihUygun(); }, &tarihiSor};
 };

@@ -5,7 +5,8 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
 #include "controls/Etiketler.h"
-#include "forms/AnaForm.h"
+#include "controls/TuşSüzgeci.h"
+#include "forms/AnaPencere.h"
 #include "system/OrtakApilerModülü.h"
 
 #include <QGridLayout>
@@ -18,7 +19,7 @@ constexpr int EnUzunAranan = 25; // letters
 
 } // namespace
 
-SilFormu::SilFormu(AnaForm& anaForm) : QDialog(&anaForm), anaForm_(anaForm)
+SilFormu::SilFormu(QWidget& sahip, AnaPencere& ana) : QDialog(&sahip), ana_(ana)
 {
     setObjectName(QStringLiteral("SilFormu"));
     setFont(FormYazıTipi());
@@ -197,8 +198,8 @@ void SilFormu::sil()
 {
     AdımAdım([this] { MakaleyiAç(MakaleListesi.Text()).Delete(); },
              [this] { MakaleListesi.RemoveItem(MakaleListesi.ListIndex()); }, [this] { ayrıntılarıBoşalt(); },
-             [this] { toplamıYaz(MakaleListesi.ListCount()); }, [this] { anaForm_.YazarListesiYükle(); },
-             [this] { anaForm_.MakaleleriBoşalt(); });
+             [this] { toplamıYaz(MakaleListesi.ListCount()); }, [this] { ana_.YazarListesiYükle(); },
+             [this] { ana_.MakaleleriBoşalt(); });
 }
 
 void SilFormu::KapatButonu_Click()

@@ -12,13 +12,13 @@
 
 #include <array>
 
-class AnaForm;
+class AnaPencere;
 
 /// Modal to the main window, which it empties after each deletion.
 class SilFormu : public QDialog
 {
 public:
-    explicit SilFormu(AnaForm& anaForm);
+    SilFormu(QWidget& sahip, AnaPencere& ana);
 
     /// Selects an article by its title.
     void Seç(const QString& başlık) { MakaleListesi.Text(başlık); }
@@ -39,7 +39,7 @@ private:
     void ayrıntılarıBoşalt();
     void toplamıYaz(qint64 sayı);
 
-    AnaForm& anaForm_;
+    AnaPencere& ana_;
     std::array<QLabel, 6> Etiket;
     ListeKutusu MakaleListesi;
     MetinKutusu MakaleBulKutusu, YazarAdıKutusu, YayımYeriKutusu, YayımTarihiKutusu;
