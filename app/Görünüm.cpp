@@ -14,7 +14,8 @@
 namespace {
 
 constexpr std::array<int, 5> boyutlar = {8, 10, 11, 12, 14};
-// The second one carries the name of orange in the list and is magenta on the screen; users know it so.
+// The second one carries the name of orange in the list and is magenta on the screen: so it has been since
+// the first version, and readers have chosen it.
 constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00, 0x00FFFF, DüğmeYüzüRengi};
 
 constexpr Renk SistemRengi = 0x80000000;

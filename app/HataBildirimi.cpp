@@ -13,7 +13,7 @@ QString HataMetni(İleti metin, const Hata& hata)
                         Metin(İleti::HataMesajı) + u' ' + hata.Açıklama()});
 }
 
-void HatayıBildirVeBit(const Hata& hata)
+void HataBildirVeÇık(const Hata& hata)
 {
     std::fprintf(stderr, "belgenar: %d %s\n", hata.Numara(), hata.what());
     İletiGöster(HataMetni(İleti::ProgramDevamEdemiyor, hata), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);

@@ -9,7 +9,7 @@
 QString HataMetni(İleti metin, const Hata& hata);
 
 /// Shows the error with its number and description, and ends the program. Does not return.
-[[noreturn]] void HatayıBildirVeBit(const Hata& hata);
+[[noreturn]] void HataBildirVeÇık(const Hata& hata);
 
 /// Lets go of the library and ends the process at once; open windows vanish with it.
 [[noreturn]] void ProgramıBitir(int durum);
@@ -20,6 +20,6 @@ template<class Gövde> decltype(auto) HatadaÇık(Gövde&& gövde)
     try {
         return std::forward<Gövde>(gövde)();
     } catch (...) {
-        HatayıBildirVeBit(ŞimdikiHata());
+        HataBildirVeÇık(ŞimdikiHata());
     }
 }

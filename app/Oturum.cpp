@@ -7,7 +7,7 @@
 void Oturum::sahipAlanınıAç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir)
 {
     Motor.emplace(bildir);
-    Motor->SystemDB(KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu));
+    Motor->SystemDB(KitaplıkYolu(klasör, DosyaAdları::Grup));
     ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
 }
 

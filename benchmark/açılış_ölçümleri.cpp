@@ -48,7 +48,7 @@ void AçılışıÖlç(const KapalıOrtam& ortam)
     const QString kopya = ProgramKlasörü + QStringLiteral("karşılaştırma");
     Ölçüm ölçüm{QStringLiteral("Sıkıştırarak açma"), [] { AçıkOturum.Aç(ProgramKlasörü); },
                 QStringLiteral("dosyayı kopyalayıp diske yazma"),
-                [&kopya] { kopyala(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Veritabanı), kopya); }, 5};
+                [&kopya] { kopyala(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Kitaplık), kopya); }, 5};
     if (büyük)
         ölçüm.Hedef = Amaç{Amaç::Tür::Oran, OranAmacı};
     ölçüm.İşHazırlığı = [] { AçıkOturum.Bırak(); };

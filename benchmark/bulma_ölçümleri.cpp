@@ -35,7 +35,7 @@ class ÇıplakOkuma
 {
 public:
     explicit ÇıplakOkuma(const QString& klasör)
-        : grup_(KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu), AçmaKipi::Oku), klasör_(klasör)
+        : grup_(KitaplıkYolu(klasör, DosyaAdları::Grup), AçmaKipi::Oku), klasör_(klasör)
     {
     }
     /// Nothing of the file is in memory any more.
@@ -141,7 +141,10 @@ void İşaretlemeyiÖlç(const PencereOrtamı& ortam)
         };
         Ölçüm ölçüm{QStringLiteral("%L1 yeri işaretleme").arg(sayı),
                     [&] {
-                        const auto yerler = TümYerler(kutu.Text(), u' ' + sözcük + u' ');
+                        const MetinArayıcı arayıcı(kutu.Text(), u' ' + sözcük + u' ');
+                        QList<qsizetype> yerler;
+                        for (qint32 konum = 0; (konum = arayıcı.Sonraki(konum)) != 0;)
+                            yerler.append(konum - 1);
                         Sağla(yerler.size() == sayı, "every occurrence");
                         kutu.İşaretle(yerler, sözcük.size() + 1);
                         QCoreApplication::processEvents();

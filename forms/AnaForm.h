@@ -112,6 +112,11 @@ private:
     void YazarBulKutusu_Change();
     void MakaleBulKutusu_Change();
     void BulKutusu_Change();
+    void YazarBulKutusu_KeyPress(char16_t& kod);
+    void MakaleBulKutusu_KeyPress(char16_t& kod);
+    void YazarListesi_KeyPress(char16_t& kod);
+    void MakaleListesi_KeyPress(char16_t& kod);
+    void MakaleMetniKutusu_KeyPress(char16_t& kod);
     void BulKutusu_KeyPress(char16_t& kod);
     void BulButonu_Click();
     void TemizleButonu_Click();
@@ -186,6 +191,7 @@ private:
     QAction İçindekilerMenüsü{this}, DizinMenüsü{this}, HatalarıBildirinMenüsü{this}, HakkındaMenüsü{this};
     QAction MenüÇizgisi2{this}, MenüÇizgisi3{this};
 
+    qint32 AramaKonumu = 0; // where the last place was found, counted from 1; 0 begins at the beginning
     OdakEtiketi odakEtiketi_;
     EkleFormu* ekleFormu_ = nullptr; // while it is shown
     QString sonuçYazarı_;            // author of the shown article in the result view

@@ -23,12 +23,12 @@ void AnaForm::bulmaOlaylarınıBağla()
     YazarBulKutusu.Change = [this] { YazarBulKutusu_Change(); };
     MakaleBulKutusu.Change = [this] { MakaleBulKutusu_Change(); };
     BulKutusu.Change = [this] { BulKutusu_Change(); };
-    YazarBulKutusu.KeyPress = [this](char16_t& kod) { BüyükHarfliKutuSüzgeci(YazarBulKutusu, kod); };
-    MakaleBulKutusu.KeyPress = [this](char16_t& kod) { BüyükHarfliKutuSüzgeci(MakaleBulKutusu, kod); };
+    YazarBulKutusu.KeyPress = [this](char16_t& kod) { YazarBulKutusu_KeyPress(kod); };
+    MakaleBulKutusu.KeyPress = [this](char16_t& kod) { MakaleBulKutusu_KeyPress(kod); };
     BulKutusu.KeyPress = [this](char16_t& kod) { BulKutusu_KeyPress(kod); };
-    YazarListesi.KeyPress = [this](char16_t& kod) { EnterSekmeOlsun(YazarListesi, kod); };
-    MakaleListesi.KeyPress = [this](char16_t& kod) { EnterSekmeOlsun(MakaleListesi, kod); };
-    MakaleMetniKutusu.KeyPress = [this](char16_t& kod) { EnterSekmeOlsun(MakaleMetniKutusu, kod); };
+    YazarListesi.KeyPress = [this](char16_t& kod) { YazarListesi_KeyPress(kod); };
+    MakaleListesi.KeyPress = [this](char16_t& kod) { MakaleListesi_KeyPress(kod); };
+    MakaleMetniKutusu.KeyPress = [this](char16_t& kod) { MakaleMetniKutusu_KeyPress(kod); };
 
     using Giriş = OdakEtiketi::Giriş;
     odakEtiketi_.Bağla(YazarListesi, Etiket[0]);
@@ -67,6 +67,31 @@ void AnaForm::BulKutusu_Change()
         else
             bulmaDüğmeleri(true);
     });
+}
+
+void AnaForm::YazarBulKutusu_KeyPress(char16_t& kod)
+{
+    BüyükHarfliKutuSüzgeci(YazarBulKutusu, kod);
+}
+
+void AnaForm::MakaleBulKutusu_KeyPress(char16_t& kod)
+{
+    BüyükHarfliKutuSüzgeci(MakaleBulKutusu, kod);
+}
+
+void AnaForm::YazarListesi_KeyPress(char16_t& kod)
+{
+    EnterSekmeOlsun(YazarListesi, kod);
+}
+
+void AnaForm::MakaleListesi_KeyPress(char16_t& kod)
+{
+    EnterSekmeOlsun(MakaleListesi, kod);
+}
+
+void AnaForm::MakaleMetniKutusu_KeyPress(char16_t& kod)
+{
+    EnterSekmeOlsun(MakaleMetniKutusu, kod);
 }
 
 void AnaForm::BulKutusu_KeyPress(char16_t& kod)
@@ -124,7 +149,10 @@ bool AnaForm::sözcüğüİşaretle()
         return false;
     // The library's texts are in normal form C; a pasted word need not be.
     const QString sözcük = BulKutusu.Text().normalized(QString::NormalizationForm_C);
-    const QList<qsizetype> yerler = TümYerler(MakaleMetniKutusu.Text(), u' ' + sözcük + u' ');
+    const MetinArayıcı arayıcı(MakaleMetniKutusu.Text(), u' ' + sözcük + u' ');
+    QList<qsizetype> yerler;
+    while ((AramaKonumu = arayıcı.Sonraki(AramaKonumu)) != 0)
+        yerler.append(AramaKonumu - 1);
     MakaleMetniKutusu.İşaretle(yerler, sözcük.size() + 1); // the blank before it, but not the one behind
     return !yerler.isEmpty();
 }

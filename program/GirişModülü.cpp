@@ -63,9 +63,9 @@ void yolGeçerliOlmalı()
 void dosyalarıDenetle()
 {
     yolGeçerliOlmalı();
-    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Veritabanı)))
+    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Kitaplık)))
         reddet(İleti::VeritabanıYok);
-    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::ÇalışmaGrubu)))
+    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Grup)))
         reddet(İleti::GerekliDosyaYok);
 }
 

@@ -6,7 +6,7 @@ set -u
 build=$(readlink -f "${1:?Kullanım: scripts/resimler.sh DERLEME-KLASÖRÜ}")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . scripts/ortak.sh
-. tests/yazdırma.sh
+. tests/printing.sh
 unset CUPS_SERVER
 
 work=$(mktemp -d)

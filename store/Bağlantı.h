@@ -31,7 +31,7 @@ struct Anahtar
     QByteArray değer; ///< a password as UTF-8, or 32 raw bytes
 };
 
-/// YazılabilirseYaz opens for reading what can't be written; what is then written all the same is 3027.
+/// YazılabilirseYaz opens for reading what can't be written; what is then written all the same is SaltOkunur.
 enum class AçmaKipi
 {
     Oku,
@@ -45,8 +45,9 @@ class Bağlantı
 {
 public:
     /// Opens the file, gives the key, registers the Turkish collation and LIKE, and reads once.
-    /// Throws 3024, 3026, 3027, 3031 (see OkunamayanDosyaTanısı), 3043, 3044, 3045, 3048, 3051, 3343, 3901 or
-    /// 3902. Oluştur refuses an existing file with 3204.
+    /// Throws DosyaYok, DiskDolu, SaltOkunur, ParolaYanlış (see OkunamayanDosyaTanısı), DiskHatası,
+    /// YolGeçersiz, DosyaKullanımda, ÇokDosyaAçık, İzinYok, KitaplıkDeğil, DosyaYarım or DosyaBoş. Oluştur
+    /// refuses an existing file with DosyaVar.
     Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip);
     ~Bağlantı();
     Bağlantı(const Bağlantı&) = delete;
@@ -73,7 +74,7 @@ public:
 
     /// Called while a statement runs, at most once every 20 ms; empty for none.
     void İlerlemeAta(const std::function<void()>& bildir);
-    /// The same, but the running statement ends with 3059 when the call returns false.
+    /// The same, but the running statement ends with İşlemDurduruldu when the call returns false.
     void SürdürmeAta(std::function<bool()> sürsünMü);
 
     /// Adds tables to what this connection knows of the file whose pages begin at the given one, and forgets
@@ -109,8 +110,8 @@ private:
 class Deyim
 {
 public:
-    /// Throws 3075 for a syntax error, 3078 for an unknown table, 3061 for an unknown column, and 3075
-    /// for a text that holds no statement or more than one.
+    /// Throws Sözdizimi for a syntax error, TabloYok for an unknown table, AlanYok for an unknown column, and
+    /// Sözdizimi for a text that holds no statement or more than one.
     Deyim(Bağlantı& bağlantı, const QByteArray& sql);
 
     /// Parameters count from 1.
@@ -127,10 +128,10 @@ public:
     /// Columns count from 0.
     qint64 Sayı(int sütun) const;
     QString Metin(int sütun) const;
-    /// A text's UTF-8 bytes, valid until the next step. Throws 3049 where they can't be read, or hold NUL,
-    /// which no stored text does: a damaged page deciphers to zeros.
+    /// A text's UTF-8 bytes, valid until the next step. Throws DosyaBozuk where they can't be read, or hold
+    /// NUL, which no stored text does: a damaged page deciphers to zeros.
     std::string_view Yazı(int sütun) const;
-    /// The column's bytes as they are stored; valid until the next step. Throws 3049 where they can't
+    /// The column's bytes as they are stored; valid until the next step. Throws DosyaBozuk where they can't
     /// be brought into memory.
     std::string_view Baytlar(int sütun) const;
     int SütunSayısı() const;

@@ -30,25 +30,26 @@ public:
 
     explicit DBEngine(İlerlemeBildirimi bildir = {});
 
-    /// Sets the workgroup file and takes its folder's lock. Throws 3024 when the file is missing and
-    /// 3045 when another process holds the lock.
+    /// Sets the workgroup file and takes its folder's lock. Throws DosyaYok when the file is missing and
+    /// DosyaKullanımda when another process holds the lock.
     void SystemDB(const QString& yol);
     const QString& SystemDB() const { return grupYolu_; }
 
-    /// A workspace for an account of the workgroup file. Throws 3029 for an unknown account or a wrong
-    /// password, and what opening the workgroup file throws. Where that can't be written, the workspace
-    /// can't change accounts (3027).
+    /// A workspace for an account of the workgroup file. Throws HesapGeçersiz for an unknown account or a
+    /// wrong password, and what opening the workgroup file throws. Where that can't be written, the workspace
+    /// can't change accounts (SaltOkunur).
     /// @param ad the workspace's own name, may be empty
     Workspace CreateWorkspace(const QString& ad, const QString& kullanıcı, const QString& parola);
 
     /// Copies the library into a new, freshly ordered, encrypted and verified file; the source's bytes
     /// stay as they are but for the roll-back of what a crash left. The copy has been written to disk
-    /// when this returns; on failure none is left behind. Throws 3204 when the target exists, 3049 when
-    /// any row of the source can't be read whole or its pages contradict each other, 3026, 3027, 3031 and
-    /// what opening throws.
+    /// when this returns; on failure none is left behind. Throws DosyaVar when the target exists, DosyaBozuk
+    /// when any row of the source can't be read whole or its pages contradict each other, DiskDolu,
+    /// SaltOkunur, ParolaYanlış and what opening throws.
     /// @return YapıDurumu::DizinBozuk where a damaged index was made anew from the table, else Sağlam
-    /// @param hedefYereli ";LANGID=0x041F;CP=1254;COUNTRY=0", the only collation there is (else 3343)
-    /// @param seçenekler dbEncrypt; there are no plain-text libraries, so anything else is 3051
+    /// @param hedefYereli ";LANGID=0x041F;CP=1254;COUNTRY=0", the only collation there is (else
+    /// KitaplıkDeğil)
+    /// @param seçenekler dbEncrypt; there are no plain-text libraries, so anything else is İzinYok
     /// @param kaynakYereli connect string of the source, ";Pwd=..."; the copy keeps that password
     YapıDurumu CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
                                int seçenekler, const QString& kaynakYereli);

@@ -20,22 +20,23 @@ public:
     Database& operator=(Database&&) noexcept = default;
 
     /// Runs one reading query. A query that begins with SELECT * gives rows that can be changed, any
-    /// other a read-only snapshot. Throws 3075 for anything but exactly one SELECT, 3078 and 3061 for
-    /// unknown names, 3049 for damage, 3420 after Close.
+    /// other a read-only snapshot. Throws Sözdizimi for anything but exactly one SELECT, TabloYok and AlanYok
+    /// for unknown names, DosyaBozuk for damage, NesneKapalı after Close.
     Recordset OpenRecordset(const QString& sql) const;
 
     /// Called during long queries, at most once every 20 ms, until it is replaced; an empty one for none.
-    /// It may repaint, but not use this database. The query ends with 3059 when it returns false.
+    /// It may repaint, but not use this database. The query ends with İşlemDurduruldu when it returns false.
     void İlerlemeAta(std::function<bool()> sürsünMü) const;
 
     /// Runs the work in one transaction: all that recordsets of this database change in it stands when it
     /// returns, nothing of it when it throws; what it throws comes through. Recordsets that took part in
-    /// failed work must not be used again. Throws 3420 after Close, 3045, and 3026 when the disk is full.
+    /// failed work must not be used again. Throws NesneKapalı after Close, DosyaKullanımda, and DiskDolu when
+    /// the disk is full.
     void TekİşlemdeYap(const std::function<void()>& iş) const;
 
     void Close() { bağlantı_.reset(); }
 
-    /// Used inside store/ only. Throws 3420 after Close.
+    /// Used inside store/ only. Throws NesneKapalı after Close.
     Bağlantı& Dosya() const;
 
 private:

@@ -5,11 +5,12 @@
 
 #include <QString>
 
-/// Why the first page of this file does not decipher: the file is foreign (3343) or empty (3902). 3031
-/// stands for the rest: a wrong key and a damaged first page look alike.
+/// Why the first page of this file does not decipher: the file is foreign (KitaplıkDeğil) or empty
+/// (DosyaBoş). ParolaYanlış stands for the rest: a wrong key and a damaged first page look alike.
 HataNo OkunamayanDosyaTanısı(const QString& yol);
 
-/// The same for a file whose key is known to be right: 3031 becomes incomplete (3901) or damaged (3049).
+/// The same for a file whose key is known to be right: ParolaYanlış becomes incomplete (DosyaYarım) or
+/// damaged (DosyaBozuk).
 HataNo AnahtarDoğruysaTanı(const QString& yol, HataNo tanı);
 
 /// Whether the file begins like an unencrypted SQLite database.

@@ -18,8 +18,6 @@ namespace {
 constexpr qint64 EnÇokMakale = 20; // bad articles that are named one by one
 constexpr qsizetype EnUzunAd = 80; // characters of a title that names one
 
-const QString GünlükEki = QStringLiteral("-journal");
-
 const QString FazlaBaytMetni = QStringLiteral("Dosyanın sonunda kitaplığa ait olmayan baytlar var.");
 const QString DizinMetni = QStringLiteral("Bir dizin tabloyla uyuşmuyor; makaleler duruyor.");
 const QString YarımMetni = QStringLiteral(
@@ -107,21 +105,20 @@ QString Denetçi::geçiciKlasör() const
 Denetçi::Kaynak Denetçi::kaynak(QStringView dosya)
 {
     const QString asıl = QFileInfo(KitaplıkYolu(klasör_, dosya)).canonicalFilePath();
-    if (asıl.isEmpty() || QFileInfo(asıl + GünlükEki).size() == 0)
+    if (asıl.isEmpty() || QFileInfo(GünlükYolu(asıl)).size() == 0)
         return {klasör_, AçmaKipi::Oku};
     sonuç_.Notlar.append(YarımMetni.arg(dosya));
-    for (const QString& ek : {QString(), GünlükEki}) {
-        const QString kopya = KitaplıkYolu(geçiciKlasör(), dosya) + ek;
-        if (!QFile::copy(asıl + ek, kopya) ||
-            !QFile::setPermissions(kopya, QFile::ReadOwner | QFile::WriteOwner))
-            throw VeritabanıHatası(HataNo::DiskHatası, kopya);
+    const QString kopya = KitaplıkYolu(geçiciKlasör(), dosya);
+    for (const auto& [eski, yeni] : {std::pair(asıl, kopya), {GünlükYolu(asıl), GünlükYolu(kopya)}}) {
+        if (!QFile::copy(eski, yeni) || !QFile::setPermissions(yeni, QFile::ReadOwner | QFile::WriteOwner))
+            throw VeritabanıHatası(HataNo::DiskHatası, yeni);
     }
     return {geçiciKlasör(), AçmaKipi::OkuYaz};
 }
 
 void Denetçi::ÇalışmaGrubunuDenetle()
 {
-    const QStringView dosya = DosyaAdları::ÇalışmaGrubu;
+    const QStringView dosya = DosyaAdları::Grup;
     const Kaynak yer = kaynak(dosya);
     dene(dosya, [&] {
         auto grup = std::make_unique<ÇalışmaGrubu>(KitaplıkYolu(yer.klasör, dosya), yer.kip);
@@ -142,7 +139,7 @@ void Denetçi::ÇalışmaGrubunuDenetle()
 
 void Denetçi::VeritabanınıDenetle()
 {
-    const QStringView dosya = DosyaAdları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Kitaplık;
     const Kaynak yer = kaynak(dosya);
     dene(dosya, [&] {
         const auto kitaplık = KitaplıkBağlantısı(yer.klasör, yer.kip, *grup_);
@@ -154,7 +151,7 @@ void Denetçi::VeritabanınıDenetle()
 
 YapıDurumu Denetçi::yapı(Bağlantı& kitaplık)
 {
-    const QStringView dosya = DosyaAdları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Kitaplık;
     kitaplık.İlerlemeAta([this] { bildir_(0, 0); });
     const YapıDurumu durum = GenelDurum(kitaplık, DenetimDerinliği::Dizinler);
     kitaplık.İlerlemeAta({});
@@ -172,7 +169,7 @@ void Denetçi::satırlar(Bağlantı& kitaplık, YapıDurumu durum)
     MakaleOkuyucu okuyucu(kitaplık, durum);
     sonuç_.MakaleSayısı = qint64(okuyucu.Künyeler().size());
 
-    const QStringView dosya = DosyaAdları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Kitaplık;
     qint64 okunan = 0, kusurlu = 0;
     for (const MakaleKünyesi& künye : okuyucu.Künyeler()) {
         std::optional<DenetimBulgusu> bulunan = kusur(okuyucu.Oku(künye));
@@ -190,7 +187,7 @@ void Denetçi::satırlar(Bağlantı& kitaplık, YapıDurumu durum)
 /// @param makale nothing where it can't be read whole
 std::optional<DenetimBulgusu> Denetçi::kusur(const std::optional<Makale>& makale)
 {
-    const QStringView dosya = DosyaAdları::Veritabanı;
+    const QStringView dosya = DosyaAdları::Kitaplık;
     if (!makale)
         return bulgu(dosya, VeritabanıHatası(HataNo::DosyaBozuk));
     bool kesmeİşaretli = false;

@@ -31,8 +31,8 @@ using DenetimBildirimi = std::function<void(qint64, qint64)>;
 
 /// Checks both files of a closed library, each even where the other one is damaged. Where a crash left
 /// a write unfinished, a copy is checked, so that the files stay as they are.
-/// Throws 3045 while the library is in use, 3024 when there is no such folder, 3043 when a copy is needed
-/// and can't be made.
+/// Throws DosyaKullanımda while the library is in use, DosyaYok when there is no such folder, DiskHatası when
+/// a copy is needed and can't be made.
 /// @param klasör with a separator at its end
 DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi& bildir);
 

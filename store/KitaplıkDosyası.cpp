@@ -135,6 +135,11 @@ GeçiciDosya::~GeçiciDosya()
         QFile::remove(yol_);
 }
 
+QString GünlükYolu(const QString& dosya)
+{
+    return dosya + QStringLiteral("-journal");
+}
+
 void BoşDosyaOluştur(const QString& yol, const QString& parola)
 {
     Bağlantı bağlantı(yol, parolaAnahtarı(parola), AçmaKipi::Oluştur);

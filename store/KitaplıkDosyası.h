@@ -25,11 +25,15 @@ private:
     QString yol_;
 };
 
-/// Creates an empty library. Throws 3204 when the file exists.
+/// The journal of a file into which a write is under way, or was when a process died.
+QString GünlükYolu(const QString& dosya);
+
+/// Creates an empty library. Throws DosyaVar when the file exists.
 void BoşDosyaOluştur(const QString& yol, const QString& parola);
 
 /// Opens an existing library and makes sure that it is one. The workgroup file tells a wrong password
-/// (3031) from a damaged file (3049, 3901). Throws 3343 for another database, 3041 for a later version.
+/// (ParolaYanlış) from a damaged file (DosyaBozuk, DosyaYarım). Throws KitaplıkDeğil for another database,
+/// SürümYeni for a later version.
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QString& parola, AçmaKipi kip,
                                              ÇalışmaGrubu& grup);
 
@@ -46,14 +50,14 @@ enum class DizinKaynağı
 /// on failure. Returns the number of rows.
 qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler);
 
-/// Reads every value of every row. Throws 3049 when one is no whole text (SağlamDeğer), and when an index
-/// has not as many entries as there are rows. Returns the rows' sum, for DizinleriDenetle.
+/// Reads every value of every row. Throws DosyaBozuk when one is no whole text (SağlamDeğer), and when an
+/// index has not as many entries as there are rows. Returns the rows' sum, for DizinleriDenetle.
 SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık);
 
 /// Replaces the library by a copy of the new file, at no moment leaving a half file under its name; where
 /// the disk has no room for a copy, the new file itself becomes the library. Follows a symbolic link and
 /// keeps the old file's owner and the owner's access rights; nobody else gets any. On failure the old file
-/// stands. Throws 3024, 3026, 3027 and 3043, as do all that follow.
+/// stands. Throws DosyaYok, DiskDolu, SaltOkunur and DiskHatası, as do all that follow.
 void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir);
 
 /// Writes a file's bytes and its folder's entry to the disk.

@@ -41,7 +41,7 @@ struct SatırToplamı
     void Ekle(std::string_view yazar, std::string_view başlık, qint64 kimlik);
 };
 
-/// The sum over the table; throws 3049 where it can't be read whole.
+/// The sum over the table; throws DosyaBozuk where it can't be read whole.
 SatırToplamı TabloToplamı(Bağlantı& kitaplık);
 
 /// Compares the indices with what TabloToplamı gave. Where both indices agree with each other against the
@@ -52,6 +52,6 @@ YapıDurumu DizinleriDenetle(Bağlantı& kitaplık, const SatırToplamı& tablo)
 /// Both of these together. Okunamıyor: pages of the table; with those of an index it is DizinBozuk.
 YapıDurumu GenelDurum(Bağlantı& kitaplık, DenetimDerinliği derinlik);
 
-/// A value of an article, valid until the statement's next step. Throws 3049 where it can't be read whole,
-/// isn't UTF-8 or holds NUL, as no stored text does.
+/// A value of an article, valid until the statement's next step. Throws DosyaBozuk where it can't be read
+/// whole, isn't UTF-8 or holds NUL, as no stored text does.
 std::string_view SağlamDeğer(const Deyim& satır, int sütun);

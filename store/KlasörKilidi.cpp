@@ -19,7 +19,7 @@ QStringList gerçekKlasörler(const QString& klasör)
 {
     const QString kendisi = QFileInfo(klasör).canonicalFilePath();
     QStringList klasörler = {kendisi.isEmpty() ? klasör : kendisi};
-    for (const QStringView ad : {DosyaAdları::Veritabanı, DosyaAdları::ÇalışmaGrubu}) {
+    for (const QStringView ad : {DosyaAdları::Kitaplık, DosyaAdları::Grup}) {
         const QFileInfo dosya(klasör + u'/' + ad.toString());
         if (dosya.exists())
             klasörler.append(dosya.canonicalPath());

@@ -12,8 +12,9 @@
 class KlasörKilidi
 {
 public:
-    /// Throws 3045 when another process holds the lock, 3024 when there is no such folder, 3044, 3048 and
-    /// 3051 when it can't be opened, and 3043 where the file system can't lock folders.
+    /// Throws DosyaKullanımda when another process holds the lock, DosyaYok when there is no such folder,
+    /// YolGeçersiz, ÇokDosyaAçık and İzinYok when it can't be opened, and DiskHatası where the file system
+    /// can't lock folders.
     explicit KlasörKilidi(const QString& klasör);
     ~KlasörKilidi();
     KlasörKilidi(KlasörKilidi&& diğer) noexcept;

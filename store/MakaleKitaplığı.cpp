@@ -23,7 +23,6 @@ const QString HedefYereli = QStringLiteral(";LANGID=0x041F;CP=1254;COUNTRY=0");
 // While a library is being made. The library comes into place last: beside a file with this ending, a
 // workgroup file alone is what a killed making left, and belongs to no library.
 const QString YeniEki = QStringLiteral(".yeni");
-const QString GünlükEki = QStringLiteral("-journal");
 constexpr qint64 BoşGünlükBoyu = 4096; // of one that holds a header only, at the most
 
 /// An empty file is half of a library too: it holds nothing that could be lost.
@@ -41,8 +40,8 @@ QString KitaplıkYolu(const QString& klasör, QStringView dosya)
 
 void KitaplıkKur(const QString& klasör)
 {
-    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Veritabanı);
-    const QString grup = KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu);
+    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Kitaplık);
+    const QString grup = KitaplıkYolu(klasör, DosyaAdları::Grup);
     const QString yeniKitaplık = kitaplık + YeniEki, yeniGrup = grup + YeniEki;
     const bool yarımdı = QFileInfo::exists(yeniKitaplık);
     if (dolu(kitaplık))
@@ -53,11 +52,11 @@ void KitaplıkKur(const QString& klasör)
     const QString kopya = KitaplıkYolu(klasör, DosyaAdları::Kopya);
     if (dolu(kopya))
         throw VeritabanıHatası(HataNo::DosyaVar, kopya);
-    if (QFileInfo(kitaplık + GünlükEki).size() > BoşGünlükBoyu)
-        throw VeritabanıHatası(HataNo::DosyaVar, kitaplık + GünlükEki);
+    if (QFileInfo(GünlükYolu(kitaplık)).size() > BoşGünlükBoyu)
+        throw VeritabanıHatası(HataNo::DosyaVar, GünlükYolu(kitaplık));
     // A journal that holds no page would still spoil the new library.
-    for (const QString& yol : {yeniKitaplık, yeniGrup, kitaplık + GünlükEki, grup + GünlükEki,
-                               yeniKitaplık + GünlükEki, yeniGrup + GünlükEki})
+    for (const QString& yol : {yeniKitaplık, yeniGrup, GünlükYolu(kitaplık), GünlükYolu(grup),
+                               GünlükYolu(yeniKitaplık), GünlükYolu(yeniGrup)})
         DosyayıSil(yol);
     GeçiciDosya yarımKitaplık(yeniKitaplık), yarımGrup(yeniGrup);
     BoşDosyaOluştur(yeniKitaplık, KitaplıkParolası);
@@ -83,10 +82,10 @@ Workspace KullanıcıÇalışmaAlanı(DBEngine& motor)
 YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
                                 const DBEngine::İlerlemeBildirimi& bildir)
 {
-    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Veritabanı);
+    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Kitaplık);
     const QString kopya = KitaplıkYolu(klasör, DosyaAdları::Kopya);
     const QString yeni = kopya + u'~';
-    YalnızSahibineAç(KitaplıkYolu(klasör, DosyaAdları::ÇalışmaGrubu));
+    YalnızSahibineAç(KitaplıkYolu(klasör, DosyaAdları::Grup));
     const auto sıkıştır = [&] {
         DosyayıSil(yeni);
         return motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);
@@ -126,7 +125,7 @@ void KullanıcıHesabınıSil(const Workspace& sahip)
 
 Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
 {
-    return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, DosyaAdları::Veritabanı), false, false, AçmaMetni);
+    return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, DosyaAdları::Kitaplık), false, false, AçmaMetni);
 }
 
 Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
@@ -136,14 +135,13 @@ Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& kl
     } catch (const VeritabanıHatası& hata) {
         if (hata != HataNo::SaltOkunur)
             throw;
-        return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, DosyaAdları::Veritabanı), false, true,
-                                         AçmaMetni);
+        return çalışmaAlanı.OpenDatabase(KitaplıkYolu(klasör, DosyaAdları::Kitaplık), false, true, AçmaMetni);
     }
 }
 
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& klasör, AçmaKipi kip, ÇalışmaGrubu& grup)
 {
-    return KitaplıkBağlantısı(KitaplıkYolu(klasör, DosyaAdları::Veritabanı), KitaplıkParolası, kip, grup);
+    return KitaplıkBağlantısı(KitaplıkYolu(klasör, DosyaAdları::Kitaplık), KitaplıkParolası, kip, grup);
 }
 
 std::optional<HataNo> YabancıGrup(ÇalışmaGrubu& grup)

@@ -15,15 +15,15 @@ enum class AçmaKipi;
 /// The file set, all in the program folder. No namespace, since moc can't read the name of one.
 struct DosyaAdları
 {
-    static constexpr QStringView Veritabanı = u"Makale.mde";
-    static constexpr QStringView ÇalışmaGrubu = u"Makale.tps";
+    static constexpr QStringView Kitaplık = u"Makale.mde";
+    static constexpr QStringView Grup = u"Makale.tps";
     /// Target of the compaction; kept until the next start, so that a whole copy exists at every moment.
     static constexpr QStringView Kopya = u"Makale.md_";
 };
 
 /// Creates an empty library and its workgroup file in the folder, readable for their owner only. What a
-/// killed creation left is replaced. Throws 3204 when either file or the spare copy exists, and then creates
-/// nothing.
+/// killed creation left is replaced. Throws DosyaVar when either file or the spare copy exists, and then
+/// creates nothing.
 void KitaplıkKur(const QString& klasör);
 
 /// The owner's workspace; the engine's workgroup file must be set.
@@ -44,13 +44,14 @@ void KullanıcıHesabınıSil(const Workspace& sahip);
 /// Opens the library in the user's workspace.
 Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
 /// The same for those who only read: a file that can't be written is opened for reading, unless a crash
-/// left a write in it that must be rolled back (3027).
+/// left a write in it that must be rolled back (SaltOkunur).
 Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
 
 /// Used inside store/ only: what can be told of the library without an engine.
 /// The library file's connection; throws as the function that takes a password.
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& klasör, AçmaKipi kip, ÇalışmaGrubu& grup);
-/// 3029 where the file doesn't know the owner account, 3031 where it belongs to another library.
+/// HesapGeçersiz where the file doesn't know the owner account, ParolaYanlış where it belongs to another
+/// library.
 std::optional<HataNo> YabancıGrup(ÇalışmaGrubu& grup);
 
 /// @param klasör with a separator at its end

@@ -23,11 +23,11 @@ public:
     Field(Recordset& kayıtlar, int sütun) : kayıtlar_(kayıtlar), sütun_(sütun) {}
 
     QString Name() const;
-    /// The pending value where one was set, else the current row's. Throws 3021 where there is no
-    /// current row, 3167 where it was deleted, 3049 where it can't be read whole.
+    /// The pending value where one was set, else the current row's. Throws KayıtYok where there is no
+    /// current row, KayıtSilinmiş where it was deleted, DosyaBozuk where it can't be read whole.
     QString Value() const;
-    /// Sets the pending value, in normal form C. Throws 3020 outside AddNew and Edit, 3163 for a value
-    /// longer than the column, 3421 for one that holds NUL.
+    /// Sets the pending value, in normal form C. Throws KayıtAçılmadı outside AddNew and Edit, DeğerÇokUzun
+    /// for a value longer than the column, DeğerGeçersiz for one that holds NUL.
     void Value(const QString& değer);
 
 private:
@@ -72,18 +72,18 @@ public:
     bool Eof() const { return yer_ >= satırSayısı_; }
     /// A move drops a pending row, so that it can't be written into another one.
     void MoveFirst();
-    /// Throws 3021 past the end.
+    /// Throws KayıtYok past the end.
     void MoveNext();
     qint64 RecordCount() const { return static_cast<qint64>(satırSayısı_); }
 
-    /// Throws 3265 for a column that the query does not give.
+    /// Throws ÖğeYok for a column that the query does not give.
     Field Fields(QStringView ad);
 
-    /// Begin a new row, begin changing the current one. Throw 3027 on a snapshot.
+    /// Begin a new row, begin changing the current one. Throw SaltOkunur on a snapshot.
     void AddNew();
     void Edit();
     /// Writes the pending row, whole or not at all; after a failure it is still pending. The current row
-    /// stays the current one. Throws 3020 when nothing is pending, 3026, 3027.
+    /// stays the current one. Throws KayıtAçılmadı when nothing is pending, DiskDolu, SaltOkunur.
     void Update();
     void CancelUpdate();
     /// Deletes the current row; it stays current, but without values, until the next move.

@@ -3,8 +3,8 @@
 
 #include "base/Hata.h"
 
-/// What went wrong. The numbers are shown to users and never change; where the field has a customary
-/// number for a fault, that number is used.
+/// What went wrong. The numbers are shown to users and never change. They are those that desktop engines with
+/// workspaces and recordsets give the same faults, so that readers who kept such libraries know them.
 enum class HataNo : int
 {
     KayıtYok = 3021,
@@ -33,7 +33,7 @@ enum class HataNo : int
     HesapVar = 3390,
     NesneKapalı = 3420,
     DeğerGeçersiz = 3421,
-    // Beyond the customary list: the two ways in which a file can be incomplete.
+    // These engines have no number for the two ways in which a file can be incomplete.
     DosyaYarım = 3901,
     DosyaBoş = 3902,
 };

@@ -20,10 +20,11 @@ public:
 
     /// All accounts in the order of their names.
     std::vector<User> Tümü() const;
-    /// Writes the account into the workgroup file. Throws 3051 for any but the owner's workspace, 3390
+    /// Writes the account into the workgroup file. Throws İzinYok for any but the owner's workspace, HesapVar
     /// when the name is taken.
     void Append(const User& kullanıcı);
-    /// Throws 3051 for any but the owner's workspace and for the owner account, 3265 for an unknown name.
+    /// Throws İzinYok for any but the owner's workspace and for the owner account, ÖğeYok for an unknown
+    /// name.
     void Delete(const QString& ad);
 
 private:
@@ -43,14 +44,14 @@ public:
     const QString& Name() const { return ad_; }
     const QString& UserName() const { return kullanıcı_; }
 
-    /// Throws 3420 after Close.
+    /// Throws NesneKapalı after Close.
     UserCollection Users() const;
     /// An account yet to be given to Users().Append.
     User CreateUser(const QString& ad) const { return User(ad); }
 
-    /// Opens a library. Throws 3031 for a wrong password, 3045 when it can't be opened alone though
-    /// that was asked for, 3343 or 3041 when it is no library or a later program's, and what
-    /// Bağlantı's constructor throws.
+    /// Opens a library. Throws ParolaYanlış for a wrong password, DosyaKullanımda when it can't be opened
+    /// alone though that was asked for, KitaplıkDeğil or SürümYeni when it is no library or a later
+    /// program's, and what Bağlantı's constructor throws.
     /// @param bağlantıMetni ";PWD=..." with the keyword in any letter case
     Database OpenDatabase(const QString& yol, bool tekBaşına, bool saltOku,
                           const QString& bağlantıMetni) const;

@@ -14,10 +14,11 @@ class ÇalışmaGrubu
 {
 public:
     /// Creates the file with its owner account. The library's password is kept as a salted hash: with
-    /// it, a wrong password can be told from a damaged library. Throws 3204 when the file exists.
+    /// it, a wrong password can be told from a damaged library. Throws DosyaVar when the file exists.
     static void Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası);
 
-    /// Throws 3343 when it is no workgroup file, 3049, 3901 or 3902 when it is damaged.
+    /// Throws KitaplıkDeğil when it is no workgroup file, DosyaBozuk, DosyaYarım or DosyaBoş when it is
+    /// damaged.
     explicit ÇalışmaGrubu(const QString& yol, AçmaKipi kip = AçmaKipi::OkuYaz);
 
     bool HesapGeçerli(const QString& ad, const QString& parola);
@@ -26,8 +27,8 @@ public:
     bool KitaplıkParolasıDoğru(const QString& parola);
 
     std::vector<User> Hesaplar();
-    void Ekle(const User& hesap); ///< throws 3390 when the name is taken
-    void Sil(const QString& ad);  ///< throws 3265 for an unknown name
+    void Ekle(const User& hesap); ///< throws HesapVar when the name is taken
+    void Sil(const QString& ad);  ///< throws ÖğeYok for an unknown name
 
 private:
     Bağlantı bağlantı_;

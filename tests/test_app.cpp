@@ -1,4 +1,4 @@
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/Görünüm.h"
 #include "app/HataPolitikaları.h"

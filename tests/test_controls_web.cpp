@@ -1,5 +1,5 @@
 // The link label and the windows that hold links.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/Metinler.h"
 #include "controls/WebEtiketi.h"

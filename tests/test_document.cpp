@@ -1,4 +1,4 @@
-#include "fuzz/MetinDenetimi.h"
+#include "fuzz/text_check.h"
 
 #include "document/MetinDosyası.h"
 #include "document/RtfOkuyucu.h"

@@ -1,4 +1,4 @@
-#include "DenemeKitaplığı.h"
+#include "library_fixture.h"
 
 #include "store/Bağlantı.h"
 
@@ -21,8 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Mde = DosyaAdları::Veritabanı.toString(), MdKopya = DosyaAdları::Kopya.toString();
-const QString Tps = DosyaAdları::ÇalışmaGrubu.toString(), Parola = u";PWD=Pelikan"_s;
+const QString Mde = DosyaAdları::Kitaplık.toString(), MdKopya = DosyaAdları::Kopya.toString();
+const QString Tps = DosyaAdları::Grup.toString(), Parola = u";PWD=Pelikan"_s;
 const QString Tümü = u"SELECT * FROM [Makaleler]"_s;
 constexpr qsizetype SayfaBoyu = 16384;
 constexpr int Bölümler = 6; // of a test that would take too long in one

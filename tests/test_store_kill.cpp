@@ -1,5 +1,5 @@
 // Processes are killed at random moments; what they had written must be whole.
-#include "DenemeKitaplığı.h"
+#include "library_fixture.h"
 
 #include "store/Bağlantı.h"
 

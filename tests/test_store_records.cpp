@@ -1,4 +1,4 @@
-#include "DenemeKitaplığı.h"
+#include "library_fixture.h"
 
 #include "store/Bağlantı.h"
 #include "store/BenzerDeseni.h"

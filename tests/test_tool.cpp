@@ -1,5 +1,5 @@
 // Runs the built companion as a user would: arguments, standard streams, exit status.
-#include "DenemeKitaplığı.h"
+#include "library_fixture.h"
 
 #include "store/Bağlantı.h"
 #include "store/KitaplıkDenetimi.h"

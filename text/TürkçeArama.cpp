@@ -2,16 +2,13 @@
 
 #include "text/TürkçeHarfler.h"
 
-#include <QStringMatcher>
-
-QList<qsizetype> TümYerler(QStringView metin, QStringView aranan)
+// Folding keeps every position.
+MetinArayıcı::MetinArayıcı(QStringView metin, QStringView aranan)
+    : katlı_(Katla(metin)), bulucu_(Katla(aranan))
 {
-    QList<qsizetype> yerler;
-    if (aranan.isEmpty())
-        return yerler;
-    const QString katlı = Katla(metin); // keeps every position
-    const QStringMatcher bulucu(Katla(aranan));
-    for (qsizetype yer = bulucu.indexIn(katlı); yer >= 0; yer = bulucu.indexIn(katlı, yer + 1))
-        yerler.append(yer);
-    return yerler;
+}
+
+qint32 MetinArayıcı::Sonraki(qint32 konum) const
+{
+    return bulucu_.pattern().isEmpty() ? 0 : static_cast<qint32>(bulucu_.indexIn(katlı_, konum) + 1);
 }

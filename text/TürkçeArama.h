@@ -1,9 +1,21 @@
-// Finding a text within another one without regard to case.
+// Finding a text in another by Turkish rules, without regard to case.
 #pragma once
 
-#include <QList>
-#include <QStringView>
+#include <QString>
+#include <QStringMatcher>
 
-/// The places (UTF-16 units, from 0, ascending) at which the sought text begins, by Turkish rules. Places
-/// may overlap; an empty text is found nowhere.
-QList<qsizetype> TümYerler(QStringView metin, QStringView aranan);
+/// Finds the places of one text in another, one after the other. Places may overlap; an empty text is found
+/// nowhere.
+class MetinArayıcı
+{
+public:
+    MetinArayıcı(QStringView metin, QStringView aranan);
+
+    /// The first place behind this one, as its position in UTF-16 units counted from 1; 0 when there is none.
+    /// @param konum a position that this function gave; 0 to search from the beginning
+    qint32 Sonraki(qint32 konum) const;
+
+private:
+    QString katlı_;
+    QStringMatcher bulucu_;
+};

@@ -18,14 +18,15 @@ class DurdurmaBekçisi;
 class JsonSatırları
 {
 public:
-    /// @param yol a path, or "-" for the standard input. Throws VeritabanıHatası 3024, 3043 or 3051.
+    /// @param yol a path, or "-" for the standard input. Throws VeritabanıHatası DosyaYok, DiskHatası or
+    /// İzinYok.
     /// @param bekçi asked while lines are waited for and read; must outlive this
     JsonSatırları(const QString& yol, const DurdurmaBekçisi& bekçi);
 
     /// The next article, nothing at the end. Strict: a line holds exactly the five members, each once, and
     /// each a string that an article can have; they come back in normal form C. Blank lines and a byte order
     /// mark at the start are passed over. Throws AraçHatası with the line's number for a bad line and when
-    /// interrupted, VeritabanıHatası 3043 when the file can't be read on.
+    /// interrupted, VeritabanıHatası DiskHatası when the file can't be read on.
     std::optional<Makale> Sonraki();
 
     /// Whether the lines can be read once only: a pipe, or the standard input.

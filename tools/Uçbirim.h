@@ -12,7 +12,7 @@ class Çıktı
 public:
     Çıktı();
 
-    /// Throws VeritabanıHatası 3026 when the disk is full, else AraçHatası.
+    /// Throws VeritabanıHatası DiskDolu when the disk is full, else AraçHatası.
     void Yaz(const QByteArray& baytlar);
     void Yaz(const QString& metin) { Yaz(metin.toUtf8()); }
     /// Writes out what is buffered. Throws as Yaz.

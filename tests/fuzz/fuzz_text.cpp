@@ -1,5 +1,5 @@
 // Fuzz target: text files of all kinds.
-#include "MetinDenetimi.h"
+#include "text_check.h"
 
 #include "document/MetinDosyası.h"
 #include "document/RtfOkuyucu.h"

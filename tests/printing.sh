@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A print service of the tests' own, whose only printer writes PDF files that keep their text.
-# Sourced after scripts/ortak.sh, it gives the functions below; run as tests/yazdırma.sh BUILD-FOLDER it
+# Sourced after scripts/ortak.sh, it gives the functions below; run as tests/printing.sh BUILD-FOLDER it
 # prints through the program's code, with a line "ok ..." or "FAIL ..." for each step.
 
 # start_print_service FOLDER: what is printed on the printer Deneme, the default one, goes to
@@ -63,9 +63,9 @@ all_printed() { [ -s "$1" ] && [ -z "$(lpstat -W not-completed)" ]; }
 [ "${BASH_SOURCE[0]}" = "$0" ] || return 0
 set -u
 . "$(dirname "$0")/../scripts/ortak.sh"
-. "$(dirname "$0")/denetim.sh"
+. "$(dirname "$0")/check.sh"
 export QT_QPA_PLATFORM=offscreen
-print_test=$(readlink -f "$1")/tests/yazdirma_denemesi
+print_test=$(readlink -f "$1")/tests/printing_driver
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export HOME=$work XDG_RUNTIME_DIR=$work # no user's own printer settings

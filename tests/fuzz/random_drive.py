@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Drives the real program at random on a screen of its own: rastgele.py BUILD-FOLDER [SEED [ACTIONS]]
+"""Drives the real program at random on a screen of its own: random_drive.py BUILD-FOLDER [SEED [ACTIONS]]
 
 What action N does depends on the seed, on N and on the active window only. After each one the program must
 answer the window manager's ping, which it does when it is done with all that came before.

@@ -1,5 +1,5 @@
 // Printers, the window that chooses one, and the hand-over to the word processor.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/HataPolitikaları.h"
 #include "app/OrtakDeğişkenlerModülü.h"
@@ -204,4 +204,4 @@ void TestPrinting::stuckService() // must not hold the program up for ever
 }
 
 QTEST_MAIN(TestPrinting)
-#include "test_yazdirma.moc"
+#include "test_system_printing.moc"

@@ -1,5 +1,5 @@
 // The rich-text box, what is done with the shown text, and the window that composes a reference.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "document/RtfOkuyucu.h"
 #include "forms/ReferansFormu.h"
@@ -164,4 +164,4 @@ private:
 };
 
 QTEST_MAIN(TestTextCommands)
-#include "test_forms_metin.moc"
+#include "test_forms_text.moc"

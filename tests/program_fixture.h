@@ -2,7 +2,7 @@
 // of its own.
 #pragma once
 
-#include "DenemeKitaplığı.h"
+#include "library_fixture.h"
 
 #include "app/Ayarlar.h"
 #include "app/OrtakDeğişkenlerModülü.h"

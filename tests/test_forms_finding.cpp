@@ -1,5 +1,5 @@
 // Finding in the main window.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/Görünüm.h"
 
@@ -245,4 +245,4 @@ private:
 };
 
 QTEST_MAIN(TestFinding)
-#include "test_forms_bulma.moc"
+#include "test_forms_finding.moc"

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# What the program brings for the user's desktop: tests/masaüstü.sh BUILD-FOLDER
+# What the program brings for the user's desktop: tests/desktop.sh BUILD-FOLDER
 # Prints a line "ok ...", "FAIL ..." or "skipped: ..." for each check.
 set -u
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . scripts/ortak.sh
-. tests/denetim.sh
+. tests/check.sh
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -1,4 +1,4 @@
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# A user's round with the real program on a virtual screen: tests/uçtan_uca.sh BUILD-FOLDER
+# A user's round with the real program on a virtual screen: tests/end_to_end.sh BUILD-FOLDER
 # Prints a line "ok ..." or "FAIL ..." for each step.
 set -u
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . scripts/ortak.sh
-. tests/denetim.sh
-. tests/yazdırma.sh
+. tests/check.sh
+. tests/printing.sh
 
 work=$(mktemp -d)
 folder=$work/Belgenar

@@ -1,5 +1,5 @@
 // The window that sets how the article text is shown.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "controls/AçılırListe.h"
 #include "controls/YazıTipleriModülü.h"
@@ -173,4 +173,4 @@ void TestSettingsWindow::everyFamilyIsListed()
 }
 
 QTEST_MAIN(TestSettingsWindow)
-#include "test_forms_ayarlar.moc"
+#include "test_forms_settings.moc"

@@ -1,4 +1,4 @@
-#include "DenemeKitaplığı.h"
+#include "library_fixture.h"
 
 #include "store/Bağlantı.h"
 
@@ -15,7 +15,7 @@ DenemeKitaplığı::DenemeKitaplığı(const QList<Makale>& makaleler)
 
 std::shared_ptr<Bağlantı> DosyaBağlantısı(const QString& klasör, int önbellek)
 {
-    auto bağlantı = std::make_shared<Bağlantı>(KitaplıkYolu(klasör, DosyaAdları::Veritabanı),
+    auto bağlantı = std::make_shared<Bağlantı>(KitaplıkYolu(klasör, DosyaAdları::Kitaplık),
                                                Anahtar{AnahtarTürü::Parola, "Pelikan"}, AçmaKipi::OkuYaz);
     bağlantı->Çalıştır("PRAGMA cache_size=" + QByteArray::number(önbellek));
     return bağlantı;

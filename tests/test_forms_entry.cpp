@@ -1,5 +1,5 @@
 // The windows that add, change and delete articles.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/Dil.h"
 #include "controls/AçılırListe.h"
@@ -534,4 +534,4 @@ void TestEntryWindows::screenReadersFollowTheFocus()
 }
 
 QTEST_MAIN(TestEntryWindows)
-#include "test_forms_giris.moc"
+#include "test_forms_entry.moc"

@@ -1,5 +1,5 @@
 // The main window: loading, browsing, layout, exit.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/Ayarlar.h"
 #include "app/Görünüm.h"
@@ -397,4 +397,4 @@ void TestMainWindow::closedWhileFilling()
 }
 
 QTEST_MAIN(TestMainWindow)
-#include "test_forms_ana.moc"
+#include "test_forms_main.moc"

@@ -1,5 +1,5 @@
 // Every message of the program, brought up where users meet it: text, picture, buttons and place.
-#include "DenemeProgramı.h"
+#include "program_fixture.h"
 
 #include "app/HataBildirimi.h"
 #include "app/PencereYeri.h"
@@ -268,4 +268,4 @@ int main(int argc, char** argv)
     TestMessages tests;
     return QTest::qExec(&tests, argc, argv);
 }
-#include "test_iletiler.moc"
+#include "test_app_messages.moc"

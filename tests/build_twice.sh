@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# ./run in a folder whose name holds the signs that build tools stumble over: tests/derleme.sh
+# ./run in a folder whose name holds the signs that build tools stumble over: tests/build_twice.sh
 # Prints a line "ok ..." or "FAIL ..." for each check.
 set -u
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . scripts/ortak.sh
-. tests/denetim.sh
+. tests/check.sh
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"; [ "$place" = "$PWD" ] || rm -f "$place"' EXIT

@@ -1,6 +1,6 @@
 // For the end-to-end test of printing, without the program's windows.
-//   yazdirma_denemesi               lists the printers, the current one first
-//   yazdirma_denemesi PRINTER       prints standard input; "" stands for the current printer
+//   printing_driver               lists the printers, the current one first
+//   printing_driver PRINTER       prints standard input; "" stands for the current printer
 // Ends with 2 where the printer is the fault.
 #include "system/Yazıcılar.h"
 #include "system/ÇalışmaHatası.h"
