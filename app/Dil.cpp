@@ -18,7 +18,7 @@ public:
 
     QString translate(const char* bağlam, const char* söz, const char* açıklama, int sayı) const override
     {
-        const QString çeviri = QTranslator::translate(bağlam, söz, açıklama, sayı);
+        QString çeviri = QTranslator::translate(bağlam, söz, açıklama, sayı);
         if (çeviri.isEmpty() && std::strcmp(bağlam, "QAbstractFileIconProvider") == 0)
             return QTranslator::translate("QFileDialog", söz, açıklama, sayı);
         return çeviri;

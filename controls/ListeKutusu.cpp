@@ -178,7 +178,7 @@ void ListeKutusu::currentChanged(const QModelIndex& şimdiki, const QModelIndex&
     if (hasFocus())
         QListView::currentChanged(şimdiki, önceki);
     else // without telling screen readers that the entry has the focus
-        QAbstractItemView::currentChanged(şimdiki, önceki);
+        QAbstractItemView::currentChanged(şimdiki, önceki); // NOLINT(bugprone-parent-virtual-call)
     if (!sessiz_ && şimdiki.isValid() && Click)
         Click();
 }
@@ -206,7 +206,7 @@ void ListeKutusu::keyReleaseEvent(QKeyEvent* olay)
 // The view would make the first entry current; coming here with the Tab key must not choose anything.
 void ListeKutusu::focusInEvent(QFocusEvent* olay)
 {
-    QAbstractScrollArea::focusInEvent(olay);
+    QAbstractScrollArea::focusInEvent(olay); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
 }
 

@@ -108,7 +108,7 @@ void ZenginMetinKutusu::insertFromMimeData(const QMimeData* veri)
 // The plain-text editor's own would change the letters' size when Ctrl is held; that is a setting's matter.
 void ZenginMetinKutusu::wheelEvent(QWheelEvent* olay)
 {
-    QAbstractScrollArea::wheelEvent(olay);
+    QAbstractScrollArea::wheelEvent(olay); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void ZenginMetinKutusu::SelStart(int yer)

@@ -19,7 +19,8 @@
 
 namespace {
 
-constexpr qsizetype EnKüçükTampon = 64 * 1024;
+constexpr qsizetype EnKüçükTampon = 65'536;
+constexpr qint64 Megabayt = 1'048'576;
 // Some old word processors leave a control character here and there; compressed data without a NUL has one
 // in ten.
 constexpr qsizetype DenetimPayı = 50;
@@ -51,7 +52,7 @@ constexpr char16_t DosSonu = 0x1A; // DOS programs end a text with it
 void boyuOlmalı(qint64 boy)
 {
     if (boy > MetinDosyasıSınırı)
-        at(QStringLiteral("Dosya çok büyük; en çok %1 MB olabilir.").arg(MetinDosyasıSınırı / (1024 * 1024)));
+        at(QStringLiteral("Dosya çok büyük; en çok %1 MB olabilir.").arg(MetinDosyasıSınırı / Megabayt));
 }
 
 void olağanDosyaOlmalı(const struct stat& durum)

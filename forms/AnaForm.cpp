@@ -215,7 +215,8 @@ void AnaForm::pencereDurumunuOku()
     setWindowState(Qt::WindowNoState);
     PencereyiKoy(*this, [ekran = screen()->virtualGeometry().size()](const QSize& boy) {
         const auto konum = [](SayıAnahtarı ayar, int ekranBoyu, int pencereBoyu) {
-            const double sayı = AyarOku(ayar, (Twip(ekranBoyu) - Twip(pencereBoyu)) / 2);
+            const int orta = (Twip(ekranBoyu) - Twip(pencereBoyu)) / 2;
+            const double sayı = AyarOku(ayar, orta);
             return Piksel(std::clamp(sayı, -EnUzakKonum, EnUzakKonum));
         };
         return QPoint(konum(Ayarlar::Sol, ekran.width(), boy.width()),

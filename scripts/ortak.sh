@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Shared by ./run, ./test and ./bench: packages, building, a virtual display. Sourced by bash, from the
 # checkout's folder.
 
@@ -9,6 +10,8 @@ VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagi
 # A print service with a printer that writes PDF (cups-*, poppler-utils); the public validators of the desktop
 # entry (desktop-file-utils), its metadata (appstream) and the manual page (mandoc); GLib's launcher, which
 # reads the entry as desktops do (libglib2.0-bin).
+# The linters are Debian 12's: others find and format otherwise.
+LINT_PACKAGES="clang-format-14 clang-tidy-16 shellcheck"
 TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES xclip cups-daemon cups-client cups-filters poppler-utils
     desktop-file-utils appstream mandoc libglib2.0-bin"
 
@@ -44,6 +47,7 @@ need_packages() {
 find_build_place() {
     local links
     place=$PWD
+    # shellcheck disable=SC2101
     [[ $place == *[!'/._ -'[:alnum:]]* ]] || return 0
     links=/var/tmp/belgenar-$(id -u)
     mkdir -m 700 "$links" 2>/dev/null

@@ -42,12 +42,12 @@ shown_or_ended() { active_is "$1" || ! running; }
 # caret blinks once a second: of the looks within that time the darkest has it, so that pictures do not
 # change by it.
 picture() {
-    local id=$shown frame look darkest=2 mean
+    local id=$shown frame darkest=2 mean
     frame=$({ xwininfo -id "$id"; xprop -id "$id" _NET_FRAME_EXTENTS; } | awk -F'[:=,]' '
         /Absolute upper-left X/ {x = $2} /Absolute upper-left Y/ {y = $2} /Width:/ {w = $2} /Height:/ {h = $2}
         /FRAME_EXTENTS/ {left = $2; right = $3; top = $4; bottom = $5}
         END {print w + left + right "x" h + top + bottom "+" x - left "+" y - top}')
-    for look in 1 2 3 4 5; do
+    for _ in 1 2 3 4 5; do
         import -window root -crop "$frame" +repage "$work/bakis.png" || die "Resim alınamadı: $1"
         mean=$(identify -format '%[fx:mean]' "$work/bakis.png")
         if awk "BEGIN {exit !($mean < $darkest)}"; then

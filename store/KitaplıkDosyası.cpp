@@ -171,7 +171,9 @@ std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QSt
 qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler)
 {
     // ATTACH makes no new file for a connection that was not opened to make one.
-    Tanıtıcı(hedef, O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
+    {
+        const Tanıtıcı yeni(hedef, O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
+    }
     kaynak.İliştir(hedef, parolaAnahtarı(parola), "kopya");
     // A throw-away file until it is whole: it needs no journal of its own.
     kaynak.Sayı("PRAGMA kopya.journal_mode=OFF");

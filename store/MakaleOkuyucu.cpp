@@ -191,7 +191,7 @@ std::optional<Makale> MakaleOkuyucu::Oku(const MakaleKünyesi& künye)
     const auto uyar = [](const QString& ad, const QString& değer) { return ad.isNull() || ad == değer; };
     for (const qint64 sayfa : sayfalar_[künye.Kimlik]) {
         kitaplık_.SayfayıTabloSay(sayfa, {TabloSayfası});
-        const auto okunan = makaleyiOku(kitaplık_, SayfadakiMakaleSql, künye.Kimlik);
+        auto okunan = makaleyiOku(kitaplık_, SayfadakiMakaleSql, künye.Kimlik);
         if (okunan && uyar(künye.YazarAdi, okunan->Yazar) && uyar(künye.MakaleBasligi, okunan->Başlık))
             return okunan;
     }

@@ -55,7 +55,8 @@ public:
     {
         if (bitti())
             return;
-        static auto* const kalanlar = new QObject; // never destroyed: it would take the programs with it
+        // Never destroyed: it would take the programs with it.
+        static auto* const kalanlar = new QObject; // NOLINT(bugprone-unhandled-exception-at-new)
         QProcess* kalan = süreç_.release();
         kalan->setParent(kalanlar);
         QObject::connect(kalan, &QProcess::finished, kalan, &QObject::deleteLater);

@@ -33,10 +33,10 @@ key() { xdotool key --clearmodifiers "$@"; } # the program takes keys in their o
 # where the window is only late, pressing them again would be once too often, so that it gets some time.
 key_until() { eventually pressed_shows "$@"; }
 pressed_shows() {
-    local title=$1 i
+    local title=$1
     shift
     active_is "$title" || key "$@"
-    for i in $(seq 100); do
+    for _ in $(seq 100); do
         active_is "$title" && return
         sleep 0.1
     done

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# What the linters say of the sources: tests/linters.sh BUILD-FOLDER
+# Prints a line "ok ..." or "FAIL ..." for each linter.
+set -u
+build=$(readlink -f "$1")
+cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
+. tests/check.sh
+
+for tool in clang-format-14 clang-tidy-16 shellcheck; do
+    command -v "$tool" >/dev/null || { echo "skipped: $tool yok"; exit; }
+done
+
+readarray -t sources < <(find base text document store system app controls forms program tools -name '*.cpp')
+readarray -t formatted < <(find base text document store system app controls forms program tools tests benchmark \
+    -name '*.cpp' -o -name '*.h')
+
+# A compiler's options that clang does not know are no finding.
+tidy() {
+    printf '%s\0' "${sources[@]}" \
+        | xargs -0 -n 4 -P "$(nproc)" clang-tidy-16 --quiet -p "$build" --extra-arg=-Wno-unknown-warning-option
+}
+no_finding() { "$@" 2>&1 | grep -E 'warning:|error:' && return 1 || return 0; }
+
+check "kaynaklar biçimlidir (clang-format)" clang-format-14 --dry-run -Werror "${formatted[@]}"
+check "betikler temizdir (shellcheck)" shellcheck -x -S warning run bench test .ci/run scripts/*.sh tests/*.sh
+check "kaynaklar temizdir (clang-tidy)" no_finding tidy
+[ "$failures" = 0 ]
