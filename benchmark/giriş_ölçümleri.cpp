@@ -129,7 +129,7 @@ void makaleyleÖlç(const PencereOrtamı& ortam, const QString& ad, const std::f
     ortam.Çizelge.Satır(ölçüm);
 }
 
-void doldur(EkleFormu& form, const ÖrnekMakale& makale)
+void doldur(EkleFormu& form, const Makale& makale)
 {
     bul<AçılırListe>(form, QStringLiteral("YazarAdıListesi")).Text(makale.Yazar);
     bul<MetinKutusu>(form, QStringLiteral("MakaleBaşlığıKutusu")).Text(makale.Başlık);
@@ -156,7 +156,10 @@ void açmayıÖlç(const PencereOrtamı& ortam, const QString& ad, const QString
     qint64 satırlar = 0;
     Ölçüm ölçüm{ad,
                 [&] {
-                    form = std::make_unique<Form>(ortam.Pencere);
+                    if constexpr (std::is_constructible_v<Form, AnaPencere&>)
+                        form = std::make_unique<Form>(ortam.Pencere);
+                    else // its owner
+                        form = std::make_unique<Form>(ortam.Pencere, ortam.Pencere);
                     form->show();
                     boya();
                 },
@@ -289,7 +292,7 @@ void SilmeyiÖlç(const PencereOrtamı& ortam)
             KaydıEkle(kayıtlar, yeniMakale(i));
     });
     int sıra = 0;
-    SilFormu form(ortam.Pencere);
+    SilFormu form(ortam.Pencere, ortam.Pencere);
     form.show();
     const auto seç = [&] {
         form.Seç(yeniMakale(sıra++).Başlık);

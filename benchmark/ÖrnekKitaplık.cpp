@@ -1,5 +1,6 @@
 #include "ÖrnekKitaplık.h"
 
+#include "app/Oturum.h"
 #include "store/MakaleKitaplığı.h"
 #include "text/TürkçeHarfler.h"
 
