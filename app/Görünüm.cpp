@@ -131,5 +131,5 @@ int FormPikseli(double twip)
 
 int FormTwipi(int piksel)
 {
-    return Twip(piksel / büyütme());
+    return static_cast<int>(std::lround(KesirliTwip(piksel) / büyütme()));
 }

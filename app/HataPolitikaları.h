@@ -34,6 +34,7 @@ template<class... Adımlar> struct AdımAdım
 {
     explicit AdımAdım(Adımlar&&... adımlar, const std::source_location& yer = std::source_location::current())
     {
+        static_assert(sizeof...(Adımlar) > 0, "AdımAdım(name) declares a variable: call İlkHatadaBit(name)");
         (İlkHatadaBit(std::forward<Adımlar>(adımlar), yer), ...);
     }
 };

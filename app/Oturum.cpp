@@ -2,7 +2,17 @@
 
 #include "app/Ayarlar.h"
 #include "app/HataPolitikaları.h"
+#include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
+
+#include <cstdio>
+
+namespace {
+
+const QString DizinOnarıldıMetni =
+    QStringLiteral("Bir dizin bozuktu; tablodan yeniden yapıldı. Makaleler tamam.");
+
+} // namespace
 
 void Oturum::sahipAlanınıAç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir)
 {
@@ -15,6 +25,8 @@ YapıDurumu Oturum::Aç(const QString& klasör, const DBEngine::İlerlemeBildiri
 {
     sahipAlanınıAç(klasör, bildir);
     const YapıDurumu durum = VeritabanınıSıkıştır(*Motor, klasör, bildir);
+    if (durum != YapıDurumu::Sağlam)
+        std::fprintf(stderr, "belgenar: Makale.mde: %s\n", qUtf8Printable(DizinOnarıldıMetni));
     KullanıcıHesabınıHazırla(*ÇalışmaAlanı);
     ÇalışmaAlanı->Close();
     ÇalışmaAlanı = KullanıcıÇalışmaAlanı(*Motor);

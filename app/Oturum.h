@@ -31,7 +31,7 @@ public:
     /// throws.
     /// @param klasör with a separator at its end
     /// @param bildir called during long work, so that windows can be repainted
-    /// @return what the compaction found
+    /// @return what the compaction found; an index that it made anew is logged
     YapıDurumu Aç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir = {});
     /// For work on a library that stays as it is: takes the lock and opens it as its owner.
     void SahipOlarakAç(const QString& klasör, Erişim erişim);

@@ -6,8 +6,7 @@
 
 #include <exception>
 
-/// Carries a Turkish sentence for the user and, where there is one, the number under which the guide
-/// explains it.
+/// Carries a Turkish sentence for the user and, where there is one, a number that never changes.
 class Hata : public std::exception
 {
 public:

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QMenuBar>
 
+#include <utility>
+
 OdakGözcüsü::OdakGözcüsü()
 {
     connect(qApp, &QApplication::focusChanged, this,

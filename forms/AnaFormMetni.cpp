@@ -77,8 +77,9 @@ void AnaForm::yazdır()
     YazdırKutusu.Text(MakaleMetniKutusu.SelLength() == 0 ? MakaleMetniKutusu.Text()
                                                          : MakaleMetniKutusu.SelText());
     const auto sonunda = qScopeGuard([this] { YazdırKutusu.Text({}); });
+    const QString iş = SeçiliMakale().simplified();
     MetinYazdır(YazdırKutusu.Text(), YazdırKutusu.FontName(), YazdırKutusu.FontSize(),
-                SeçiliMakale().isEmpty() ? Metin(İleti::ProgramAdı) : SeçiliMakale());
+                iş.isEmpty() ? Metin(İleti::ProgramAdı) : iş);
 }
 
 void AnaForm::WordeYapıştırMenüsü_Click()

@@ -2,6 +2,7 @@
 #include "forms/AnaForm.h"
 
 #include "app/Görünüm.h"
+#include "app/HataPolitikaları.h"
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/PencereYeri.h"
@@ -62,12 +63,13 @@ void AnaForm::oturumuBitir()
     bitti_ = true;
     ++doldurma_; // a filling under way must not go on
     Sınırla.stop();
-    const PencereDurumu durum = pencereDurumu();
-    PencereSonu son{{}, YazarListesi.ListIndex(), static_cast<int>(durum)};
-    if (durum == PencereDurumu::Olağan) {
+    PencereSonu son{{}, -1, static_cast<int>(pencereDurumu())};
+    İlkHatadaBit([&] {
+        son.YazarSırası = YazarListesi.ListIndex();
         const QPoint yer = ÇerçeveliYer(*this).topLeft();
-        son.Yer = QPoint(Twip(yer.x()), Twip(yer.y()));
-    }
+        if (pencereDurumu() == PencereDurumu::Olağan)
+            son.Yer = QPoint(Twip(yer.x()), Twip(yer.y()));
+    });
     AçıkOturum.Kapat(son);
     QCoreApplication::exit(0);
 }

@@ -241,9 +241,6 @@ void MakaleGirişFormu::dosyadanYükle()
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         const auto sonunda = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
         MakaleMetniKutusu.Değiştir(MetinDosyasıOku(yol));
-    } catch (const MetinOkumaHatası& hata) {
-        uyar(hata.Açıklama());
-        return;
     } catch (...) {
         uyar(ŞimdikiHata().Açıklama());
         return;

@@ -32,7 +32,7 @@ private:
     void YazıcıAdlarıKutusu_Click();
     void TamamDüğmesi_Click();
     void İptalDüğmesi_Click();
-    /// @throw ÇalışmaHatası 381 none is selected
+    /// @throw ÇalışmaHatası GeçersizDizin: none is selected
     const Yazıcı& seçiliYazıcı() const;
 
     const QList<Yazıcı> yazıcılar_;

@@ -10,7 +10,6 @@
 #include "app/İletiKutusu.h"
 #include "forms/AnaForm.h"
 #include "forms/KarşılamaFormu.h"
-#include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
 #include "store/VeritabanıHatası.h"
 #include "system/BelgeAktarımı.h"
@@ -22,15 +21,11 @@
 #include <QScopeGuard>
 #include <QSessionManager>
 
-#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
 
 namespace {
-
-const QString DizinOnarıldıMetni =
-    QStringLiteral("Bir dizin bozuktu; tablodan yeniden yapıldı. Makaleler tamam.");
 
 [[noreturn]] void reddet(İleti metin)
 {
@@ -67,12 +62,6 @@ void dosyalarıDenetle()
         reddet(İleti::VeritabanıYok);
     if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Grup)))
         reddet(İleti::GerekliDosyaYok);
-}
-
-void kitaplığıAç()
-{
-    if (AçıkOturum.Aç(ProgramKlasörü, &PencereleriBoya) != YapıDurumu::Sağlam)
-        std::fprintf(stderr, "belgenar: Makale.mde: %s\n", qUtf8Printable(DizinOnarıldıMetni));
 }
 
 /// What a second start brings forward while there is no main window: the box that waits for the user.
@@ -121,7 +110,7 @@ int SubMain(QApplication& uygulama)
         PencereleriBoya();
         sürümüDenetle();
         dosyalarıDenetle();
-        kitaplığıAç();
+        AçıkOturum.Aç(ProgramKlasörü, &PencereleriBoya);
         EskiBelgeleriSil();
 
         AnaForm form;

@@ -10,10 +10,10 @@ VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagi
 # A print service with a printer that writes PDF (cups-*, poppler-utils); the public validators of the desktop
 # entry (desktop-file-utils), its metadata (appstream) and the manual page (mandoc); GLib's launcher, which
 # reads the entry as desktops do (libglib2.0-bin).
-# The linters are Debian 12's: others find and format otherwise.
-LINT_PACKAGES="clang-format-14 clang-tidy-16 shellcheck"
 TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES xclip cups-daemon cups-client cups-filters poppler-utils
     desktop-file-utils appstream mandoc libglib2.0-bin"
+# The linters are Debian 12's: others find and format otherwise.
+LINT_PACKAGES="clang-format-14 clang-tidy-16 shellcheck"
 
 die() {
     echo "$*" >&2

@@ -83,8 +83,8 @@ std::unique_ptr<Bağlantı> DBEngine::kitaplıkAç(const QString& yol, const QSt
     return bağlantı;
 }
 
-/// Returns what the source's indices are worth; throws 3049, in the source's name, where its rows are not
-/// to be trusted.
+/// Returns what the source's indices are worth; throws DosyaBozuk, in the source's name, where its rows are
+/// not to be trusted.
 YapıDurumu DBEngine::kopyalaVeDoğrula(Bağlantı& kaynak, const QString& hedef, const QString& parola,
                                       ÇalışmaGrubu& grup, DizinKaynağı dizinler) const
 try {

@@ -10,20 +10,25 @@ namespace {
 constexpr double TwipİnçBaşına = 1440.0;
 constexpr double OlağanNokta = 96.0;
 
-double pikseldeTwip()
+double nokta()
 {
     const QScreen* ekran = QGuiApplication::primaryScreen();
-    return TwipİnçBaşına / (ekran ? ekran->logicalDotsPerInch() : OlağanNokta);
+    return ekran ? ekran->logicalDotsPerInch() : OlağanNokta;
 }
 
 } // namespace
 
 int Piksel(double twip)
 {
-    return static_cast<int>(std::lround(twip / pikseldeTwip()));
+    return static_cast<int>(std::lround(twip * nokta() / TwipİnçBaşına));
 }
 
-int Twip(double piksel)
+int Twip(int piksel)
 {
-    return static_cast<int>(std::lround(piksel * pikseldeTwip()));
+    return static_cast<int>(std::lround(KesirliTwip(piksel)));
+}
+
+double KesirliTwip(int piksel)
+{
+    return piksel * TwipİnçBaşına / nokta();
 }

@@ -1,7 +1,8 @@
 // Twips and pixels.
 #pragma once
 
-/// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots. Both are for places on the
-/// primary screen, and round.
+/// A twip is a 1440th of a logical inch: 15 to a pixel at the usual 96 dots. All are for places on the
+/// primary screen; the first two round.
 int Piksel(double twip);
-int Twip(double piksel);
+int Twip(int piksel);
+double KesirliTwip(int piksel);

@@ -25,6 +25,6 @@ void GeçerliYazıcı(const QString& ad);
 /// page.
 /// @param yazıTipi family; the next best one where it is not installed
 /// @param nokta points
-/// @param başlık what the print service calls the job, cut where it takes no longer name
+/// @param başlık what the print service calls the job, not empty; cut where it takes no longer name
 /// @throw ÇalışmaHatası Yazıcı: there is no such printer (any more), or the service refuses the job
 void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta, const QString& başlık);

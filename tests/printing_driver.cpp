@@ -23,7 +23,8 @@ int main(int argc, char** argv)
                 std::printf("%s\t%s\n", qUtf8Printable(yazıcı.Ad), qUtf8Printable(yazıcı.BağlantıNoktası));
         } else if (dosya.open(stdin, QIODevice::ReadOnly)) {
             GeçerliYazıcı(sözcükler[1]);
-            MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11, {});
+            MetinYazdır(QString::fromUtf8(dosya.readAll()), QStringLiteral("Liberation Serif"), 11,
+                        QStringLiteral("Deneme"));
         }
         return 0;
     } catch (const ÇalışmaHatası& hata) {
