@@ -63,11 +63,12 @@ void AnaForm::oturumuBitir()
     bitti_ = true;
     ++doldurma_; // a filling under way must not go on
     Sınırla.stop();
-    PencereSonu son{{}, -1, static_cast<int>(pencereDurumu())};
+    const PencereDurumu durum = pencereDurumu();
+    PencereSonu son{{}, -1, static_cast<int>(durum)};
     İlkHatadaBit([&] {
         son.YazarSırası = YazarListesi.ListIndex();
         const QPoint yer = ÇerçeveliYer(*this).topLeft();
-        if (pencereDurumu() == PencereDurumu::Olağan)
+        if (durum == PencereDurumu::Olağan)
             son.Yer = QPoint(Twip(yer.x()), Twip(yer.y()));
     });
     AçıkOturum.Kapat(son);

@@ -214,15 +214,16 @@ DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi
 
 QString DeğerSorunu(const QString& değer, MakaleSütunu sütun)
 {
-    const auto [ad, enUzun, yer] = Tanım(sütun);
+    const SütunTanımı& tanım = Tanım(sütun);
     if (değer.contains(QChar(u'\0')))
-        return QStringLiteral("%1 alanında kullanılamayan bir karakter (NUL) var.").arg(ad);
+        return QStringLiteral("%1 alanında kullanılamayan bir karakter (NUL) var.").arg(tanım.ad);
     if (!değer.isValidUtf16())
-        return QStringLiteral("%1 alanında yarım bir karakter (eşi olmayan \\uD800–\\uDFFF) var.").arg(ad);
-    if (değer.size() > enUzun)
+        return QStringLiteral("%1 alanında yarım bir karakter (eşi olmayan \\uD800–\\uDFFF) var.")
+            .arg(tanım.ad);
+    if (değer.size() > tanım.enUzun)
         return QStringLiteral("%1 alanı çok uzun: %2 karakter; en çok %3 olabilir.")
-            .arg(ad, QString::number(değer.size()), QString::number(enUzun));
+            .arg(tanım.ad, QString::number(değer.size()), QString::number(tanım.enUzun));
     if (adSütunu(sütun) && değer.trimmed().isEmpty())
-        return QStringLiteral("%1 alanı boş.").arg(ad);
+        return QStringLiteral("%1 alanı boş.").arg(tanım.ad);
     return {};
 }

@@ -10,9 +10,11 @@ for tool in clang-format-14 clang-tidy-16 shellcheck; do
     command -v "$tool" >/dev/null || { echo "skipped: $tool yok"; exit; }
 done
 
-readarray -t sources < <(find base text document store system app controls forms program tools -name '*.cpp')
-readarray -t formatted < <(find base text document store system app controls forms program tools tests benchmark \
-    -name '*.cpp' -o -name '*.h')
+product="base text document store system app controls forms program tools"
+# shellcheck disable=SC2086
+readarray -t sources < <(find $product -name '*.cpp')
+# shellcheck disable=SC2086
+readarray -t formatted < <(find $product tests benchmark -name '*.cpp' -o -name '*.h')
 
 # A compiler's options that clang does not know are no finding.
 tidy() {
