@@ -61,11 +61,45 @@ void yazıTipiniYaz(QByteArray& belge, const QString& ad, int nokta)
     belge.append(";}}\\f0\\fs" + QByteArray::number(2 * nokta) + ' ');
 }
 
+void değerYaz(QByteArray& belge, const char* ad, QStringView değer)
+{
+    belge.append("{\\").append(ad).append(' ');
+    for (const QChar harf : BelgeÖzelliği(değer.toString()))
+        harfYaz(belge, harf.unicode());
+    belge.append('}');
+}
+
+void özellikYaz(QByteArray& belge, QStringView ad, const QString& değer)
+{
+    if (değer.isEmpty())
+        return;
+    değerYaz(belge, "propname", ad);
+    belge.append("\\proptype30"); // text
+    değerYaz(belge, "staticval", değer);
+}
+
+void bilgiyiYaz(QByteArray& belge, const BelgeBilgisi& bilgi)
+{
+    if (!bilgi.Başlık.isEmpty() || !bilgi.Yazar.isEmpty()) {
+        belge.append("{\\info");
+        değerYaz(belge, "title", bilgi.Başlık);
+        değerYaz(belge, "author", bilgi.Yazar);
+        belge.append('}');
+    }
+    if (!bilgi.Yer.isEmpty() || !bilgi.Tarih.isEmpty()) {
+        belge.append("{\\*\\userprops");
+        özellikYaz(belge, YayımYeriÖzelliği, bilgi.Yer);
+        özellikYaz(belge, YayımTarihiÖzelliği, bilgi.Tarih);
+        belge.append('}');
+    }
+}
+
 } // namespace
 
-QByteArray RtfBelgesi(QStringView metin, const QString& yazıTipi, int nokta)
+QByteArray RtfBelgesi(QStringView metin, const QString& yazıTipi, int nokta, const BelgeBilgisi& bilgi)
 {
     QByteArray belge(baş);
+    bilgiyiYaz(belge, bilgi);
     if (!yazıTipi.isEmpty())
         yazıTipiniYaz(belge, yazıTipi, nokta);
     belge.reserve(metin.size() + metin.size() / 2 + 64); // Turkish texts take about that much

@@ -1,6 +1,8 @@
 // Plain text as a rich-text document.
 #pragma once
 
+#include "document/BelgeBilgisi.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringView>
@@ -10,4 +12,6 @@
 /// An empty text gives an empty document.
 /// @param yazıTipi family; the reader's own font where it is empty
 /// @param nokta points; used with a family only
-QByteArray RtfBelgesi(QStringView metin, const QString& yazıTipi = {}, int nokta = 0);
+/// @param bilgi written as the document's properties, but for OluşturmaTarihi; RtfBilgisiOku gives the same
+QByteArray RtfBelgesi(QStringView metin, const QString& yazıTipi = {}, int nokta = 0,
+                      const BelgeBilgisi& bilgi = {});

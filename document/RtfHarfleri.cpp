@@ -1,5 +1,7 @@
 #include "document/RtfHarfleri.h"
 
+#include "document/Utf8.h"
+
 #include <utility>
 
 RtfHarfleri::RtfHarfleri(RtfBaşlığı& başlık, std::function<void(char16_t)> alıcı)
@@ -34,12 +36,27 @@ void RtfHarfleri::Bayt(unsigned char bayt, Yazılış yazılış)
     }
 }
 
-void RtfHarfleri::Unicode(char16_t harf)
+void RtfHarfleri::Unicode(int değer)
 {
-    if ((harf & 0xFF00) == 0xF000 && başlık_.Simgesel(yazıTipi_))
-        Bayt(static_cast<unsigned char>(harf & 0xFF), Yazılış::Kaçışlı);
-    else
-        alıcı_(harf);
+    const int kod = değer < 0 ? değer + 0x10000 : değer;
+    if (kod < 0 || kod > 0x10FFFF) {
+        alıcı_(QChar::ReplacementCharacter);
+    } else if (kod > 0xFFFF) {
+        alıcı_(QChar::highSurrogate(static_cast<char32_t>(kod)));
+        alıcı_(QChar::lowSurrogate(static_cast<char32_t>(kod)));
+    } else if ((kod & 0xFF00) == 0xF000 && başlık_.Simgesel(yazıTipi_)) {
+        Bayt(static_cast<unsigned char>(kod & 0xFF), Yazılış::Kaçışlı);
+    } else {
+        alıcı_(static_cast<char16_t>(kod));
+    }
+}
+
+void RtfHarfleri::YedekAtla(std::string_view& baytlar, int& kaç) const
+{
+    for (; kaç > 0 && !baytlar.empty(); --kaç) {
+        const QByteArrayView kalan(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+        baytlar.remove_prefix(hamUtf8_ ? static_cast<std::size_t>(Utf8İlk(kalan).Boy) : 1);
+    }
 }
 
 void RtfHarfleri::Kes()

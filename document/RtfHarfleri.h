@@ -25,15 +25,17 @@ public:
 
     /// Raw bytes above 127 are UTF-8, whatever the font.
     void HamUtf8Varsay() { hamUtf8_.emplace(KodSayfası::Utf8); }
-    bool HamUtf8() const { return hamUtf8_.has_value(); }
     /// Font of the bytes that follow, by its place in the head.
     void YazıTipi(int yer);
     /// The head has changed.
     void Unut() { sayfa_ = nullptr; }
 
     void Bayt(unsigned char bayt, Yazılış yazılış);
-    /// A unit of Unicode; those of private use may stand for a symbol font's bytes.
-    void Unicode(char16_t harf);
+    /// What \u with this number stands for; those of private use may stand for a symbol font's bytes.
+    void Unicode(int değer);
+    /// Passes over raw characters that stand in for one of Unicode.
+    /// @param kaç how many; less those that were there
+    void YedekAtla(std::string_view& baytlar, int& kaç) const;
     /// Whether bytes below 128 are ASCII here.
     bool Ascii() const { return yarımBoyu_ == 0 && !başlık_.Simgeler(yazıTipi_); }
     /// Something else comes: a letter that has begun gives U+FFFD.

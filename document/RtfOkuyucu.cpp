@@ -10,7 +10,6 @@
 #include "document/RtfTabloları.h"
 #include "document/RtfÇıktısı.h"
 #include "document/RtfÖnBakış.h"
-#include "document/Utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,8 +17,6 @@
 
 namespace {
 
-constexpr int EnDerinGrup = 10'000; // word processors stay below a hundred
-constexpr int EnUzunYedek = 255;
 constexpr int EnUzunKomut = 128;                       // the one for a sign is shorter
 constexpr qsizetype EnBüyükBelge = qsizetype(1) << 30; // the text's positions are ints
 constexpr QByteArrayView İmza("{\\rtf");
@@ -70,7 +67,6 @@ private:
     void simge(int işaret);
     void unicode(int değer);
     void düz(std::string_view baytlar);
-    void yedeğiAtla(std::string_view& baytlar);
     void harf(char16_t harf);
     void biçimiBildir();
     void paragrafBaşı();
@@ -149,7 +145,7 @@ bool Okuyucu::işle(const RtfSözcüğü& söz)
 void Okuyucu::grupAç()
 {
     durum_.Yeni = false;
-    if (dıştakiler_.size() >= EnDerinGrup) {
+    if (dıştakiler_.size() >= RtfSınırı::Derinlik) {
         ++fazlaGrup_;
         return;
     }
@@ -328,7 +324,7 @@ void Okuyucu::biçim(const RtfTanımı& tanım, const RtfSözcüğü& söz)
 void Okuyucu::başlık(const RtfTanımı& tanım, int değer)
 {
     if (tanım.Eylem == RtfEylemi::YedekBoyu)
-        durum_.YedekBoyu = static_cast<quint8>(std::clamp(değer, 0, EnUzunYedek));
+        durum_.YedekBoyu = static_cast<quint8>(std::clamp(değer, 0, RtfSınırı::Yedek));
     else if (durum_.Hedef == RtfHedefi::Madde)
         maddeler_.Sözcük(tanım, değer);
     else {
@@ -438,31 +434,14 @@ void Okuyucu::simge(int işaret)
 
 void Okuyucu::unicode(int değer)
 {
-    const int kod = değer < 0 ? değer + 0x10000 : değer;
-    if (kod < 0 || kod > 0x10FFFF) {
-        harf(QChar::ReplacementCharacter);
-    } else if (kod > 0xFFFF) {
-        harf(QChar::highSurrogate(static_cast<char32_t>(kod)));
-        harf(QChar::lowSurrogate(static_cast<char32_t>(kod)));
-    } else {
-        harfler_.YazıTipi(yazıTipi());
-        harfler_.Unicode(static_cast<char16_t>(kod));
-    }
+    harfler_.YazıTipi(yazıTipi());
+    harfler_.Unicode(değer);
     atlanacak_ = durum_.YedekBoyu;
-}
-
-// Passes over characters that stand in for one of Unicode.
-void Okuyucu::yedeğiAtla(std::string_view& baytlar)
-{
-    for (; atlanacak_ > 0 && !baytlar.empty(); --atlanacak_) {
-        const QByteArrayView kalan(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
-        baytlar.remove_prefix(harfler_.HamUtf8() ? static_cast<std::size_t>(Utf8İlk(kalan).Boy) : 1);
-    }
 }
 
 void Okuyucu::düz(std::string_view baytlar)
 {
-    yedeğiAtla(baytlar);
+    harfler_.YedekAtla(baytlar, atlanacak_);
     const auto ascii = [](char bayt) { return static_cast<unsigned char>(bayt) < 0x80; };
     while (!baytlar.empty()) {
         if (!durum_.Yazılıyor() || !ascii(baytlar.front()) || !harfler_.Ascii()) {

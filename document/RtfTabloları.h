@@ -91,6 +91,13 @@ enum class RtfMaddeTürü : quint8
     KüçükRoma
 };
 
+/// Far more than word processors write; they keep damaged documents from growing in memory.
+struct RtfSınırı
+{
+    static constexpr int Derinlik = 10'000; ///< of groups
+    static constexpr int Yedek = 255;       ///< characters that stand in for a Unicode one
+};
+
 /// What a dropped destination may hold.
 struct RtfAtlanan
 {

@@ -1,6 +1,8 @@
 #include "fuzz/text_check.h"
 
 #include "document/MetinDosyası.h"
+#include "document/RtfBelgesi.h"
+#include "document/RtfBilgisi.h"
 #include "document/RtfOkuyucu.h"
 
 #include <QDir>
@@ -25,6 +27,9 @@ class TestDocument : public QObject
 private slots:
     void texts_data();
     void texts();
+    void properties_data();
+    void properties();
+    void propertiesWritten();
     void fileErrors_data();
     void fileErrors();
     void mutations();
@@ -164,6 +169,51 @@ void TestDocument::texts()
     QTEST(okunan.Metin + (stretches.isEmpty() ? QString() : u'|' + stretches.join(u',')), "text");
 }
 
+void TestDocument::properties_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("properties"); // author, title, place, date, date of creation
+    const auto row = [](const char* name, const char* body, const QString& properties) {
+        QTest::newRow(name) << "{\\rtf1" + QByteArray(body) + '}' << properties;
+    };
+    row("none", R"(\title a{\propname Yer}{\staticval b}{\author c})", u"||||"_s);
+    row("all",
+        R"(\ansi\ansicpg1254{\info{\title \'dd\u351?{\b \'fe}\emdash}{\author A. \~B\_C}{\creatim\yr2004\mo5\dy12\hr10}{\revtim\yr2009\mo1\dy1}}{\*\userprops{\propname YAYIM YER\'dd}\proptype30{\staticval R\u105?ze}{\propname x}\proptype30{\staticval y}{\propname Yayim tarihi}\proptype30{\staticval May\'fds 2004}}\pard t)",
+        u"A. \u00A0B\u2011C|İşş—|Rize|Mayıs 2004|12.05.2004"_s);
+    row("other names",
+        R"({\*\userprops{\propname tarih}{\staticval}{\propname LOCATION}{\staticval a}{\propname Place}{\staticval b}{\propname Date}{\staticval c}})",
+        u"||a|c|"_s);
+    row("first author, twice the title",
+        R"({\info{\upr{\title I\'3f}{\*\ud{\title I\u351\'3f\uc2\u305\'41\'42c}}}{\author a}{\author b}{\operator o}})",
+        u"a|Işıc|||"_s);
+    row("fonts",
+        R"(\deff1{\fonttbl{\f1\fcharset162{\*\falt x}A;}{\f2\fcharset161 B;}}{\info{\title\'fe\f2 \'e1}{\author{\*\x y}\par\'fe\tab\line}})",
+        u"ş|şα|||"_s);
+    row("UTF-8 unsaid", "{\\fonttbl{\\f0\\fcharset0 A;}}{\\info{\\title ış\\u351ş!}}", u"|ışş!|||"_s);
+    row("no day", R"({\info{\creatim\yr0\mo0\dy0}{\creatim\yr1601\mo1\dy1}{\creatim\yr2003\mo2\dy29}})",
+        u"||||"_s);
+    row("open groups", R"({\info{\author a{\b b}{\title t\pard c{\title d)", u"ab|t|||"_s);
+    row("raw bytes", R"({\pict\bin14 {\info{\title}x}{\info{\title\u0?\u55357?\bin2 }}{b}})", u"|\uFFFDb|||"_s);
+    QTest::newRow("no RTF") << "{\\info{\\title a}}"_ba << u"||||"_s;
+}
+
+void TestDocument::properties()
+{
+    QFETCH(QByteArray, bytes);
+    const BelgeBilgisi b = RtfBilgisiOku(bytes);
+    QTEST(QStringList({b.Yazar, b.Başlık, b.Yer, b.Tarih, b.OluşturmaTarihi}).join(u'|'), "properties");
+}
+
+void TestDocument::propertiesWritten()
+{
+    const BelgeBilgisi b = {
+        u"Ağaoğlu, Ş. {\\}"_s, u"“Iğdır” \u00A0😀—中; {\\pard"_s, u"İÇEL"_s, u"1\\2"_s, {}};
+    const QByteArray document = RtfBelgesi(u"Işık\n"_s, u"Serif"_s, 12, b);
+    QVERIFY(RtfBilgisiOku(document) == b);
+    QCOMPARE(RtfOku(document).Metin, RtfOku(RtfBelgesi(u"Işık\n"_s)).Metin);
+    QCOMPARE(RtfBelgesi({}, {}, 0, {u"\n"_s, {}, {}, {}, {}}).count("author"), 1);
+}
+
 void TestDocument::fileErrors_data()
 {
     QTest::addColumn<QByteArray>("bytes"); // of a regular file; else the row's name says what there is
@@ -236,6 +286,7 @@ void TestDocument::mutations()
         }
         try {
             const char* fault = MetinKusuru(MetinÇöz(bytes));
+            fault = fault ? fault : BilgiKusuru(RtfBilgisiOku(bytes));
             QVERIFY2(!fault, fault + (": " + bytes.toPercentEncoding()));
             ++readable;
         } catch (const MetinOkumaHatası&) {
@@ -274,6 +325,7 @@ void TestDocument::floods()
     QElapsedTimer time;
     time.start();
     const BiçimliMetin text = RtfOku("{\\rtf1" + body + "}}");
+    RtfBilgisiOku("{\\rtf1{\\info{\\title " + body);
     QVERIFY(time.elapsed() < 60'000); // a thousand times what it takes without sanitizers
     QVERIFY(!MetinKusuru(text));
     QVERIFY(text.Metin.capacity() * 2 + text.Parçalar.capacity() * qsizetype(sizeof(BiçimliParça)) <

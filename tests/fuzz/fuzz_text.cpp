@@ -2,19 +2,26 @@
 #include "text_check.h"
 
 #include "document/MetinDosyası.h"
+#include "document/RtfBilgisi.h"
 #include "document/RtfOkuyucu.h"
 
 #include <cstdlib>
 
 namespace {
 
+void kusursuzOlmalı(const char* kusur)
+{
+    if (kusur) {
+        qCritical("%s", kusur);
+        std::abort();
+    }
+}
+
 template<typename Okuma> void dene(Okuma oku, QByteArrayView baytlar)
 {
     try {
-        if (const char* kusur = MetinKusuru(oku(baytlar))) {
-            qCritical("%s", kusur);
-            std::abort();
-        }
+        kusursuzOlmalı(BilgiKusuru(RtfBilgisiOku(baytlar)));
+        kusursuzOlmalı(MetinKusuru(oku(baytlar)));
     } catch (const MetinOkumaHatası&) { // damaged, as most inputs are
     }
 }

@@ -1,6 +1,7 @@
 // What must hold for every text that was read, whatever the bytes were.
 #pragma once
 
+#include "document/BelgeBilgisi.h"
 #include "document/BiçimliMetin.h"
 
 /// What is wrong with the text; nullptr when nothing is.
@@ -26,4 +27,17 @@ inline const char* MetinKusuru(const BiçimliMetin& okunan)
         son = qsizetype(parça.Yer) + parça.Uzunluk;
     }
     return son > metin.size() ? "a stretch beyond the text" : nullptr;
+}
+
+/// What is wrong with a document's properties; nullptr when nothing is.
+inline const char* BilgiKusuru(const BelgeBilgisi& bilgi)
+{
+    for (const QString* değer :
+         {&bilgi.Yazar, &bilgi.Başlık, &bilgi.Yer, &bilgi.Tarih, &bilgi.OluşturmaTarihi}) {
+        if (değer->trimmed() != *değer || değer->contains(QLatin1Char('\n')))
+            return "a property with blanks or lines around";
+        if (const char* kusur = MetinKusuru({*değer, {}}))
+            return kusur;
+    }
+    return nullptr;
 }
