@@ -49,6 +49,7 @@ struct RtfDurumu
     bool Yıldızlı = false;        ///< \* was
     bool Tabloda = false;         ///< the paragraph stands in a table cell
     bool İçMetin = false;         ///< within a footnote, a text box or the description of an inner table
+    bool ListeMetninde = false;   ///< within a list item's number or bullet
     bool ListeMetniVardı = false; ///< the paragraph around that had its list text
 
     /// Whether letters become text here.

@@ -68,6 +68,7 @@ private:
     void unicode(int değer);
     void düz(std::string_view baytlar);
     void harf(char16_t harf);
+    void metinHarfi(char16_t harf);
     void biçimiBildir();
     void paragrafBaşı();
 
@@ -93,6 +94,8 @@ private:
     RtfSatırı içSatır_; // of a table in a footnote or a text box, or within a cell
     RtfMaddeleri maddeler_;
     QString alanKomutu_;
+    bool listeBaşında_ = false; // nothing but blanks was read of a list text
+    QString listeBoşluğu_;      // those; headings without a number have nothing else
 };
 
 BiçimliMetin Okuyucu::oku()
@@ -366,10 +369,15 @@ void Okuyucu::hedef(const RtfTanımı& tanım)
     case RtfEylemi::ListeMetni:
         if (durum_.Hedef != RtfHedefi::Metin)
             break;
-        if (!çıktı_.ListeMetniGerek())
+        if (!çıktı_.ListeMetniGerek()) {
             durum_.Hedef = RtfHedefi::Atlanan;
-        else if (durum_.Madde >= 0)
+            break;
+        }
+        if (durum_.Madde >= 0)
             maddeler_.Say(durum_.Madde);
+        durum_.ListeMetninde = true;
+        listeBaşında_ = true;
+        listeBoşluğu_.clear();
         break;
     case RtfEylemi::Madde:
         if (durum_.Hedef == RtfHedefi::Metin && durum_.Kapanış == RtfKapanışı::Yok) {
@@ -444,7 +452,7 @@ void Okuyucu::düz(std::string_view baytlar)
     harfler_.YedekAtla(baytlar, atlanacak_);
     const auto ascii = [](char bayt) { return static_cast<unsigned char>(bayt) < 0x80; };
     while (!baytlar.empty()) {
-        if (!durum_.Yazılıyor() || !ascii(baytlar.front()) || !harfler_.Ascii()) {
+        if (!durum_.Yazılıyor() || durum_.ListeMetninde || !ascii(baytlar.front()) || !harfler_.Ascii()) {
             harfler_.Bayt(static_cast<unsigned char>(baytlar.front()), RtfHarfleri::Yazılış::Ham);
             baytlar.remove_prefix(1);
             continue;
@@ -458,16 +466,29 @@ void Okuyucu::düz(std::string_view baytlar)
     }
 }
 
+void Okuyucu::metinHarfi(char16_t harf)
+{
+    const bool listede = durum_.ListeMetninde;
+    if (listede && listeBaşında_ && (harf == u'\t' || harf == u' ')) {
+        listeBoşluğu_ += QChar(harf);
+        return;
+    }
+    biçimiBildir();
+    paragrafBaşı();
+    if (listede && std::exchange(listeBaşında_, false))
+        for (const QChar boşluk : listeBoşluğu_)
+            çıktı_.Harf(boşluk.unicode());
+    const bool fontsuzİm = listede && (harf & 0xFF00) == 0xF000; // some programs forget to name the font
+    çıktı_.Harf(fontsuzİm ? u'•' : harf);
+}
+
 void Okuyucu::harf(char16_t harf)
 {
     harfler_.Kes();
     switch (durum_.Hedef) {
     case RtfHedefi::Metin:
-        if (durum_.Yazılıyor() && harf != 0) {
-            biçimiBildir();
-            paragrafBaşı();
-            çıktı_.Harf(harf);
-        }
+        if (durum_.Yazılıyor() && harf != 0)
+            metinHarfi(harf);
         break;
     case RtfHedefi::YazıTipleri:
         başlık_.YazıTipiHarfi(harf);

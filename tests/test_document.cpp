@@ -82,6 +82,8 @@ void TestDocument::texts_data()
     row("object", R"(a{\object{\*\objdata 01}{\result b}}{\shp{\*\shpinst{\sn n}{\shptxt c}}{\shprslt c}}d)",
         u"ab\nc\nd"_s);
     row("list", R"({\listtext\u8226?\tab}{\pntext 1}a\par{\pntext 2.\tab}b)", u"•\ta\n2.\tb"_s);
+    row("list text of blanks or without its font",
+        R"({\b x\par{\listtext\pard\i \tab}y\par{\listtext\u61589\'3f\tab}z})", u"x\ny\n•\tz|0+7 b"_s);
     row("list in a cell", R"(\intbl{\listtext 1.}a\par{\listtext 2.}b\cell\row)", u"1.a 2.b\n"_s);
     row("items without list text",
         R"({\fonttbl{\f1\fcharset2 Symbol;}}a{\*\pn\pnlvlbody\pndec\pnstart9{\pntxtb (}{\pntxta )}}\par b{\footnote x\par y}l\par{\pntext .}c{\shp{\*\shpinst{\shptxt z\par}}}d\par e\line k\par\pard f\par{\*\pn\pnlvlblt}g\par{\pntxta h}\pard{\*\pn\pnlvlblt\pnf1{\pntxtb\'ae}}i)",
@@ -193,7 +195,8 @@ void TestDocument::properties_data()
     row("no day", R"({\info{\creatim\yr0\mo0\dy0}{\creatim\yr1601\mo1\dy1}{\creatim\yr2003\mo2\dy29}})",
         u"||||"_s);
     row("open groups", R"({\info{\author a{\b b}{\title t\pard c{\title d)", u"ab|t|||"_s);
-    row("raw bytes", R"({\pict\bin14 {\info{\title}x}{\info{\title\u0?\u55357?\bin2 }}{b}})", u"|\uFFFDb|||"_s);
+    row("raw bytes", R"({\pict\bin14 {\info{\title}x}{\info{\title\u0?\u55357?\bin2 }}{b}})",
+        u"|\uFFFDb|||"_s);
     QTest::newRow("no RTF") << "{\\info{\\title a}}"_ba << u"||||"_s;
 }
 
