@@ -243,12 +243,16 @@ BiçimliMetin MetinÇöz(QByteArrayView baytlar)
     return sonuç;
 }
 
+QByteArray DosyaBaytları(const QString& yol)
+{
+    return AçıkDosya(QFile::encodeName(yol)).oku();
+}
+
 BiçimliMetin MetinDosyasıOku(const QString& yol)
 {
     QString neden;
     try {
-        const QByteArray baytlar = AçıkDosya(QFile::encodeName(yol)).oku();
-        return MetinÇöz(baytlar);
+        return MetinÇöz(DosyaBaytları(yol));
     } catch (const MetinOkumaHatası& hata) {
         neden = hata.Açıklama();
     } catch (const std::bad_alloc&) {

@@ -3,6 +3,7 @@
 
 #include "document/BiçimliMetin.h"
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
@@ -18,7 +19,13 @@ inline constexpr qint64 MetinDosyasıSınırı = qint64(256) * 1024 * 1024;
 ///         large, binary, a damaged RTF document, may not or can't be read, or does not fit into memory
 BiçimliMetin MetinDosyasıOku(const QString& yol);
 
-/// The same for a file's content.
+/// A file's content.
+/// @throws MetinOkumaHatası it is missing, a folder or a device, too large, may not or can't be read; does
+///         not name the file
+/// @throws std::bad_alloc
+QByteArray DosyaBaytları(const QString& yol);
+
+/// The same as MetinDosyasıOku for a file's content.
 /// @throws MetinOkumaHatası binary data or a damaged RTF document
 /// @throws std::bad_alloc
 BiçimliMetin MetinÇöz(QByteArrayView baytlar);
