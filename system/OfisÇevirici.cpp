@@ -245,8 +245,9 @@ void OfisÇevirici::boruyuSil() const
     if (profil_.isEmpty())
         return;
     const QByteArray anahtar(reinterpret_cast<const char*>(profil_.utf16()), profil_.size() * 2);
-    const QByteArray yol = "/tmp/OSL_PIPE_" + QByteArray::number(getuid()) + "_SingleOfficeIPC_" +
-                           QCryptographicHash::hash(anahtar, QCryptographicHash::Md5).toHex();
+    QByteArray yol = "/tmp/OSL_PIPE_" + QByteArray::number(getuid()) + "_SingleOfficeIPC_";
+    for (const char bayt : QCryptographicHash::hash(anahtar, QCryptographicHash::Md5))
+        yol += QByteArray::number(static_cast<unsigned char>(bayt), 16); // one digit where that is enough
     struct stat durum = {};
     if (lstat(yol.constData(), &durum) == 0 && S_ISSOCK(durum.st_mode))
         unlink(yol.constData());
