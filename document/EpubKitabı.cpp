@@ -79,13 +79,21 @@ Paket paketOku(const QByteArray& baytlar)
     return paket;
 }
 
+[[noreturn]] void okunamadı()
+{
+    throw MetinOkumaHatası(
+        QStringLiteral("Kitabın bölümleri okunamadı; kopyalamaya karşı korunuyor olabilir."));
+}
+
 // The body of a page. Its head would end the book: a title that XML may leave empty goes on for HTML.
 QString gövde(const QString& sayfa)
 {
     const qsizetype baş = sayfa.indexOf(u"<body");
     const qsizetype içi = baş < 0 ? -1 : sayfa.indexOf(u'>', baş);
     const qsizetype son = sayfa.lastIndexOf(u"</body");
-    return içi < 0 ? QString() : sayfa.mid(içi + 1, son < içi ? -1 : son - içi - 1);
+    if (içi < 0)
+        okunamadı();
+    return sayfa.mid(içi + 1, son < içi ? -1 : son - içi - 1);
 }
 
 QByteArray bölüm(const QByteArray& baytlar)
@@ -95,8 +103,7 @@ QByteArray bölüm(const QByteArray& baytlar)
     try {
         return gövde(MetinÇöz(baytlar).Metin).toUtf8();
     } catch (const MetinOkumaHatası&) {
-        throw MetinOkumaHatası(
-            QStringLiteral("Kitabın bölümleri okunamadı; kopyalamaya karşı korunuyor olabilir."));
+        okunamadı();
     }
 }
 

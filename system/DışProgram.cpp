@@ -131,7 +131,7 @@ void oku(int& uç, QByteArray& hedef, bool sonu)
 QString DışProgram::Bul(const QStringList& adlar)
 {
     for (const QString& ad : adlar) {
-        const QString yol = QStandardPaths::findExecutable(ad);
+        QString yol = QStandardPaths::findExecutable(ad);
         if (!yol.isEmpty())
             return yol;
     }
@@ -143,13 +143,9 @@ DışProgram::DışProgram(const QString& yol, const QStringList& argümanlar, c
 {
     std::array<std::array<int, 2>, 3> borular{{{-1, -1}, {-1, -1}, {-1, -1}}};
     bool açıldı = true;
-    for (std::size_t i = 0; i < borular.size(); ++i)
-        açıldı = açıldı && pipe2(borular[i].data(), O_CLOEXEC) == 0;
-    for (std::size_t i = 0; i < borular.size(); ++i) {
-        uçlar_[i] = borular[i][0];
-        if (açıldı)
-            fcntl(uçlar_[i], F_SETFL, O_NONBLOCK);
-    }
+    for (auto& boru : borular)
+        açıldı = açıldı && pipe2(boru.data(), O_CLOEXEC) == 0 && fcntl(boru[0], F_SETFL, O_NONBLOCK) == 0;
+    uçlar_ = {borular[0][0], borular[1][0], borular[2][0]};
     const bool birlikte = çıktılar == Çıktılar::Birlikte;
     if (açıldı)
         başlat(yol, argümanlar, ortam, {borular[0][1], borular[birlikte ? 0 : 1][1], borular[2][1]});

@@ -1,5 +1,6 @@
 #include "fuzz/text_check.h"
 
+#include "document/EpubKitabı.h"
 #include "document/MetinDosyası.h"
 #include "document/RtfBelgesi.h"
 #include "document/RtfBilgisi.h"
@@ -30,6 +31,7 @@ private slots:
     void properties_data();
     void properties();
     void propertiesWritten();
+    void book();
     void fileErrors_data();
     void fileErrors();
     void mutations();
@@ -215,6 +217,40 @@ void TestDocument::propertiesWritten()
     QVERIFY(RtfBilgisiOku(document) == b);
     QCOMPARE(RtfOku(document).Metin, RtfOku(RtfBelgesi(u"Işık\n"_s)).Metin);
     QCOMPARE(RtfBelgesi({}, {}, 0, {u"\n"_s, {}, {}, {}, {}}).count("author"), 1);
+}
+
+void TestDocument::book()
+{
+    const QByteArray container = "<container><rootfile full-path='o.opf'/></container>";
+    QByteArray package = R"(<p xmlns:dc="http://purl.org/dc/elements/1.1/" xmlns:opf="o"><dc:title> A
+ b</dc:title><dc:creator>Ş. <b>C</b></dc:creator><dc:creator>D</dc:creator><dc:date opf:event="modification">2009</dc:date>
+<dc:date>2004-05-12</dc:date><item id="1" href="ba%C5%9F.xhtml#x" media-type="application/xhtml+xml"/>
+<item id="n" href="nav.html" properties="a nav"/><item id="s" href="a.svg" media-type="image/svg"/>
+<item id="2" href="./x/../2.html"/><itemref idref="2"/><itemref idref="n"/><itemref idref="s"/><itemref idref="1"/>)";
+    QByteArray chapter = "<html><body a='1'>\xfe&nbsp;</body></html>";
+    const auto read = [&](const QString& name) -> QByteArray {
+        return name == u"META-INF/container.xml" ? container
+               : name == u"o.opf"                ? package
+               : name == u"baş.xhtml"            ? "<html><title/><body>ilk</body>"_ba
+               : name == u"2.html"               ? chapter
+                                                 : QByteArray();
+    };
+    const EpubKitabı kitap = EpubOku(read);
+    QVERIFY(kitap.Bilgi == BelgeBilgisi({u"Ş. C, D"_s, u"A  b"_s, {}, u"12.05.2004"_s, {}}));
+    QVERIFY(kitap.Html.contains("<body>\n<div>ş&nbsp;</div>\n<div>ilk</div></body>"));
+    const auto refusal = [&read] {
+        try {
+            return QString::fromUtf8(EpubOku(read).Html);
+        } catch (const MetinOkumaHatası& hata) {
+            return hata.Açıklama();
+        }
+    };
+    chapter = "\1\2\3\4";
+    QVERIFY(refusal().contains(u"korunuyor"));
+    chapter.clear();
+    QVERIFY(refusal().contains(u"eksik"));
+    package.clear();
+    QVERIFY(refusal().contains(u"kitabı değil"));
 }
 
 void TestDocument::fileErrors_data()
