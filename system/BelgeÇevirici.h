@@ -38,6 +38,6 @@ using ÇevrilenAlıcı = std::function<void(qsizetype kaçıncı, const Çevrile
 /// @param yollar absolute
 /// @param sürsün asked ten times a second and more; false stops. It may throw, too, as may the receiver
 /// @return false when stopped
-/// @throws ÇalışmaHatası no temporary folder can be made
+/// @throws ÇalışmaHatası the temporary folder can't be made or written
 bool BelgeleriÇevir(const QStringList& yollar, const ÇevrilenAlıcı& alıcı,
                     const std::function<bool()>& sürsün = {}, const ÇevirmeSüreleri& süreler = {});

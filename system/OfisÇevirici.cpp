@@ -17,6 +17,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace {
@@ -102,6 +103,8 @@ QProcessEnvironment ortam(const QString& geçici)
         return belge;
     } catch (const MetinOkumaHatası& hata) {
         return neden(hata.Açıklama());
+    } catch (const std::bad_alloc&) {
+        return neden(QStringLiteral("Belgeyi okumaya bellek yetmiyor."));
     }
 }
 

@@ -23,6 +23,6 @@ tidy() {
 }
 
 check "kaynaklar biçimlidir (clang-format)" clang-format-14 --dry-run -Werror "${formatted[@]}"
-check "betikler temizdir (shellcheck)" shellcheck -x -S warning run bench test .ci/run scripts/*.sh tests/*.sh
+check "betikler temizdir (shellcheck)" shellcheck -x -S warning run bench test .ci/run scripts/*.sh tests/*.sh tests/converting/*
 check "kaynaklar temizdir (clang-tidy)" tidy
 [ "$failures" = 0 ]
