@@ -1,10 +1,10 @@
 #include "store/KitaplıkYapısı.h"
 
 #include "store/Bağlantı.h"
+#include "store/Utf8Metni.h"
 #include "store/VeritabanıHatası.h"
 
 #include <QFileInfo>
-#include <QUtf8StringView>
 
 #include <algorithm>
 #include <optional>
@@ -137,13 +137,19 @@ YapıDurumu DizinleriDenetle(Bağlantı& kitaplık, const SatırToplamı& tablo)
     return uyar ? YapıDurumu::Sağlam : YapıDurumu::DizinBozuk;
 }
 
+YapıDurumu GenelDurum(Bağlantı& kitaplık, YapıDurumu sayfalar, const SatırToplamı& tablo)
+{
+    if (sayfalar > YapıDurumu::Okunamıyor)
+        return sayfalar;
+    const YapıDurumu dizinler = DizinleriDenetle(kitaplık, tablo);
+    return sayfalar == YapıDurumu::Sağlam ? dizinler : std::max(YapıDurumu::DizinBozuk, dizinler);
+}
+
 YapıDurumu GenelDurum(Bağlantı& kitaplık, DenetimDerinliği derinlik)
 try {
-    const YapıDurumu durum = YapıyıDenetle(kitaplık, derinlik);
-    if (durum > YapıDurumu::Okunamıyor)
-        return durum;
-    const YapıDurumu dizinler = DizinleriDenetle(kitaplık, TabloToplamı(kitaplık));
-    return durum == YapıDurumu::Sağlam ? dizinler : std::max(YapıDurumu::DizinBozuk, dizinler);
+    const YapıDurumu sayfalar = YapıyıDenetle(kitaplık, derinlik);
+    return sayfalar > YapıDurumu::Okunamıyor ? sayfalar
+                                             : GenelDurum(kitaplık, sayfalar, TabloToplamı(kitaplık));
 } catch (const VeritabanıHatası& hata) {
     if (hata != HataNo::DosyaBozuk)
         throw;
@@ -153,7 +159,7 @@ try {
 std::string_view SağlamDeğer(const Deyim& satır, int sütun)
 {
     const std::string_view utf8 = satır.Yazı(sütun);
-    if (!QUtf8StringView(utf8.data(), qsizetype(utf8.size())).isValidUtf8())
+    if (!Utf8Geçerli(utf8))
         throw VeritabanıHatası(HataNo::DosyaBozuk);
     return utf8;
 }
