@@ -19,7 +19,6 @@ constexpr qint64 EnÇokMakale = 20; // bad articles that are named one by one
 constexpr qsizetype EnUzunAd = 80; // characters of a title that names one
 
 const QString FazlaBaytMetni = QStringLiteral("Dosyanın sonunda kitaplığa ait olmayan baytlar var.");
-const QString DizinMetni = QStringLiteral("Bir dizin tabloyla uyuşmuyor; makaleler duruyor.");
 const QString YarımMetni = QStringLiteral(
     "%1 dosyasında yarım kalmış bir yazma var; dosya bir sonraki açılışta ondan önceki durumuna döner.");
 const QString KesmeMetni = QStringLiteral("%1 makalenin yazar adında ya da başlığında kesme işareti (') var; "
@@ -105,14 +104,11 @@ QString Denetçi::geçiciKlasör() const
 Denetçi::Kaynak Denetçi::kaynak(QStringView dosya)
 {
     const QString asıl = QFileInfo(KitaplıkYolu(klasör_, dosya)).canonicalFilePath();
-    if (asıl.isEmpty() || QFileInfo(GünlükYolu(asıl)).size() == 0)
+    if (asıl.isEmpty() || !YarımYazmaVar(asıl))
         return {klasör_, AçmaKipi::Oku};
     sonuç_.Notlar.append(YarımMetni.arg(dosya));
     const QString kopya = KitaplıkYolu(geçiciKlasör(), dosya);
-    for (const auto& [eski, yeni] : {std::pair(asıl, kopya), {GünlükYolu(asıl), GünlükYolu(kopya)}}) {
-        if (!QFile::copy(eski, yeni) || !QFile::setPermissions(yeni, QFile::ReadOwner | QFile::WriteOwner))
-            throw VeritabanıHatası(HataNo::DiskHatası, yeni);
-    }
+    GünlüğüyleKopyala(asıl, kopya, [](qint64) {});
     return {geçiciKlasör(), AçmaKipi::OkuYaz};
 }
 
@@ -156,7 +152,7 @@ YapıDurumu Denetçi::yapı(Bağlantı& kitaplık)
     const YapıDurumu durum = GenelDurum(kitaplık, DenetimDerinliği::Dizinler);
     kitaplık.İlerlemeAta({});
     if (durum == YapıDurumu::DizinBozuk)
-        ekle(bulgu(dosya, HataNo::DosyaBozuk, DizinMetni));
+        ekle(bulgu(dosya, HataNo::DosyaBozuk, DizinBozukMetni.toString()));
     else if (durum == YapıDurumu::FazlaBayt)
         ekle(bulgu(dosya, HataNo::DosyaBozuk, FazlaBaytMetni));
     else if (durum != YapıDurumu::Sağlam)

@@ -31,10 +31,13 @@ using DenetimBildirimi = std::function<void(qint64, qint64)>;
 
 /// Checks both files of a closed library, each even where the other one is damaged. Where a crash left
 /// a write unfinished, a copy is checked, so that the files stay as they are.
-/// Throws DosyaKullanımda while the library is in use, DosyaYok when there is no such folder, DiskHatası when
-/// a copy is needed and can't be made.
+/// Throws DosyaKullanımda while the library is in use, DosyaYok when there is no such folder, and when a copy
+/// is needed and can't be made DiskDolu, SaltOkunur or DiskHatası.
 /// @param klasör with a separator at its end
 DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi& bildir);
+
+/// Of a library whose index is damaged and nothing else.
+inline constexpr QStringView DizinBozukMetni = u"Bir dizin tabloyla uyuşmuyor; makaleler duruyor.";
 
 /// Why an article can't have this value, as a Turkish sentence; empty where it can.
 QString DeğerSorunu(const QString& değer, MakaleSütunu sütun);

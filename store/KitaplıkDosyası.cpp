@@ -33,20 +33,26 @@ public:
     Tanıtıcı(const Tanıtıcı&) = delete;
     Tanıtıcı& operator=(const Tanıtıcı&) = delete;
 
-    /// Appends the next bytes of another file. @return false at its end
-    bool Aktar(const Tanıtıcı& diğer, std::size_t enÇok) const
+    /// Appends the next bytes of another file. @return how many; 0 at its end
+    std::size_t Aktar(const Tanıtıcı& diğer, std::size_t enÇok) const
     {
         // Within the system, without a detour through this process, where it can do that.
         const ssize_t aktarılan = copy_file_range(diğer.no_, nullptr, no_, nullptr, enÇok, 0);
         if (aktarılan > 0)
-            return true;
+            return static_cast<std::size_t>(aktarılan);
         if (aktarılan < 0 && errno != EXDEV && errno != ENOSYS && errno != EINVAL && errno != EOPNOTSUPP)
             SistemHatasıVer(errno, Erişim::Yazma, yol_);
         // Some file systems also say 0 too early, so the end is what read calls the end.
         std::vector<char> blok(enÇok);
         const std::size_t boy = diğer.oku(blok.data(), blok.size());
         yaz(blok.data(), boy);
-        return boy > 0;
+        return boy;
+    }
+    /// Has the system begin to write bytes to the disk, so that a later sync waits less; a file system that
+    /// can't do that writes all of them then.
+    void YazmayaBaşla(qint64 yer, std::size_t boy) const
+    {
+        static_cast<void>(sync_file_range(no_, yer, static_cast<off_t>(boy), SYNC_FILE_RANGE_WRITE));
     }
     void DiskeYaz() const
     {
@@ -97,26 +103,20 @@ private:
     int no_;
 };
 
-void klasörüDiskeYaz(const QString& yol)
-{
-    Tanıtıcı(QFileInfo(yol).absolutePath(), O_RDONLY | O_DIRECTORY).KlasörüDiskeYaz();
-}
-
 void kopyasınıYerineKoy(const QString& yeni, const QString& hedef, const struct stat& eski,
                         const std::function<void()>& bildir)
 {
     const QString ara = hedef + u'~';
     DosyayıSil(ara);
     GeçiciDosya geçici(ara);
+    DosyayıKopyala(yeni, ara, [&bildir](qint64) {
+        if (bildir)
+            bildir();
+    });
     {
-        const Tanıtıcı okunan(yeni, O_RDONLY);
-        const Tanıtıcı yazılan(ara, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
-        while (yazılan.Aktar(okunan, BlokBoyu)) {
-            if (bildir)
-                bildir();
-        }
-        yazılan.HaklarıVer(eski);
-        yazılan.DiskeYaz();
+        const Tanıtıcı kopya(ara, O_RDONLY);
+        kopya.HaklarıVer(eski);
+        kopya.DiskeYaz();
     }
     DosyayıTaşı(ara, hedef);
     geçici.Kalsın();
@@ -138,6 +138,19 @@ GeçiciDosya::~GeçiciDosya()
 QString GünlükYolu(const QString& dosya)
 {
     return dosya + QStringLiteral("-journal");
+}
+
+bool YarımYazmaVar(const QString& dosya)
+{
+    const QString asıl = QFileInfo(dosya).canonicalFilePath();
+    return !asıl.isEmpty() && QFileInfo(GünlükYolu(asıl)).size() > 0;
+}
+
+void GünlüğüyleKopyala(const QString& kaynak, const QString& hedef, const std::function<void(qint64)>& bildir)
+{
+    DosyayıKopyala(kaynak, hedef, bildir);
+    if (YarımYazmaVar(kaynak))
+        DosyayıKopyala(GünlükYolu(QFileInfo(kaynak).canonicalFilePath()), GünlükYolu(hedef), bildir);
 }
 
 void BoşDosyaOluştur(const QString& yol, const QString& parola)
@@ -200,7 +213,7 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
     return satırlar;
 }
 
-SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık)
+SatırToplamı SatırlarıOku(Bağlantı& kitaplık)
 {
     constexpr int Kimlik = int(MakaleSütunları.size());
     SatırToplamı toplam;
@@ -211,6 +224,12 @@ SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık)
             SağlamDeğer(deyim, sütun);
         toplam.Ekle(deyim.Baytlar(0), deyim.Baytlar(1), deyim.Sayı(Kimlik));
     }
+    return toplam;
+}
+
+SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık)
+{
+    const SatırToplamı toplam = SatırlarıOku(kitaplık);
     for (const char* dizin : DizinAdları) {
         if (kitaplık.Sayı(QByteArray("SELECT count(*) FROM Makaleler INDEXED BY ") + dizin) !=
             toplam.Satırlar)
@@ -249,13 +268,32 @@ void DosyayıTaşı(const QString& yol, const QString& yeniYol)
 {
     if (rename(QFile::encodeName(yol).constData(), QFile::encodeName(yeniYol).constData()) != 0)
         SistemHatasıVer(errno, Erişim::Yazma, yeniYol);
-    klasörüDiskeYaz(yeniYol);
+    ÜstKlasörüDiskeYaz(yeniYol);
+    if (QFileInfo(yol).absolutePath() != QFileInfo(yeniYol).absolutePath())
+        ÜstKlasörüDiskeYaz(yol);
+}
+
+void DosyayıKopyala(const QString& kaynak, const QString& hedef, const std::function<void(qint64)>& bildir)
+{
+    const Tanıtıcı okunan(kaynak, O_RDONLY);
+    const Tanıtıcı yazılan(hedef, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    qint64 yer = 0;
+    while (const std::size_t boy = yazılan.Aktar(okunan, BlokBoyu)) {
+        yazılan.YazmayaBaşla(yer, boy);
+        yer += static_cast<qint64>(boy);
+        bildir(static_cast<qint64>(boy));
+    }
 }
 
 void DiskeYaz(const QString& yol)
 {
     Tanıtıcı(yol, O_RDONLY).DiskeYaz();
-    klasörüDiskeYaz(yol);
+    ÜstKlasörüDiskeYaz(yol);
+}
+
+void ÜstKlasörüDiskeYaz(const QString& yol)
+{
+    Tanıtıcı(QFileInfo(yol).absolutePath(), O_RDONLY | O_DIRECTORY).KlasörüDiskeYaz();
 }
 
 void DosyayıSil(const QString& yol)

@@ -28,6 +28,14 @@ private:
 /// The journal of a file into which a write is under way, or was when a process died.
 QString GünlükYolu(const QString& dosya);
 
+/// Whether a journal with something in it stands beside the file or, where that is a link, beside what it
+/// leads to.
+bool YarımYazmaVar(const QString& dosya);
+/// As DosyayıKopyala, the journal as well where there is one: whoever opens the copy has it rolled back, and
+/// the file itself stays as it is.
+void GünlüğüyleKopyala(const QString& kaynak, const QString& hedef,
+                       const std::function<void(qint64)>& bildir);
+
 /// Creates an empty library. Throws DosyaVar when the file exists.
 void BoşDosyaOluştur(const QString& yol, const QString& parola);
 
@@ -50,8 +58,10 @@ enum class DizinKaynağı
 /// on failure. Returns the number of rows.
 qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler);
 
-/// Reads every value of every row. Throws DosyaBozuk when one is no whole text (SağlamDeğer), and when an
-/// index has not as many entries as there are rows. Returns the rows' sum, for DizinleriDenetle.
+/// Reads every value of every row. Throws DosyaBozuk when one is no whole text (SağlamDeğer). Returns the
+/// rows' sum, for DizinleriDenetle.
+SatırToplamı SatırlarıOku(Bağlantı& kitaplık);
+/// The same; throws DosyaBozuk also when an index has not as many entries as there are rows.
 SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık);
 
 /// Replaces the library by a copy of the new file, at no moment leaving a half file under its name; where
@@ -63,10 +73,19 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
 /// Writes a file's bytes and its folder's entry to the disk.
 void DiskeYaz(const QString& yol);
 
+/// Writes the folder's entry for this file or folder to the disk.
+void ÜstKlasörüDiskeYaz(const QString& yol);
+
 /// Takes all access rights but the owner's; a file of somebody else's stays as it is.
 void YalnızSahibineAç(const QString& yol);
 
-/// Gives a file another name in its folder, over a file that has it, and writes the folder to the disk.
+/// Copies a file's bytes into a new one that only its owner may read; half a file on failure. Not synced yet,
+/// though its writing to the disk has begun.
+/// @param bildir called behind each piece with the bytes in it; what it throws ends the copying
+void DosyayıKopyala(const QString& kaynak, const QString& hedef, const std::function<void(qint64)>& bildir);
+
+/// Gives a file or a folder another name, over a file that has it, and writes the folders in which it stands
+/// and stood to the disk.
 void DosyayıTaşı(const QString& yol, const QString& yeniYol);
 
 /// Deletes a file if there is one.

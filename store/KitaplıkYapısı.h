@@ -49,6 +49,9 @@ SatırToplamı TabloToplamı(Bağlantı& kitaplık);
 /// DizinBozuk.
 YapıDurumu DizinleriDenetle(Bağlantı& kitaplık, const SatırToplamı& tablo);
 
+/// What the pages, as YapıyıDenetle found them, a table that could be read whole and the indices come to.
+YapıDurumu GenelDurum(Bağlantı& kitaplık, YapıDurumu sayfalar, const SatırToplamı& tablo);
+
 /// Both of these together. Okunamıyor: pages of the table; with those of an index it is DizinBozuk.
 YapıDurumu GenelDurum(Bağlantı& kitaplık, DenetimDerinliği derinlik);
 

@@ -5,17 +5,13 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
-namespace {
-
-/// The folder, and those in which its library's files really lie; each once.
-QStringList gerçekKlasörler(const QString& klasör)
+QStringList GerçekKlasörler(const QString& klasör)
 {
     const QString kendisi = QFileInfo(klasör).canonicalFilePath();
     QStringList klasörler = {kendisi.isEmpty() ? klasör : kendisi};
@@ -28,11 +24,9 @@ QStringList gerçekKlasörler(const QString& klasör)
     return klasörler;
 }
 
-} // namespace
-
 KlasörKilidi::KlasörKilidi(const QString& klasör) : KlasörKilidi() // from here on the destructor lets go
 {
-    for (const QString& gerçek : gerçekKlasörler(klasör))
+    for (const QString& gerçek : GerçekKlasörler(klasör))
         kilitle(gerçek);
 }
 

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
+
+/// The folder, and those in which its library's files really lie; each once, without links in its path.
+QStringList GerçekKlasörler(const QString& klasör);
 
 /// Holds an exclusive lock on a program folder while it lives, and on the folders in which its library's
 /// files really lie where they are links: the same library is locked by whatever way it is reached. The

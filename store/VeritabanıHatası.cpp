@@ -61,6 +61,8 @@ QString cümle(HataNo numara)
         return QStringLiteral("Dosya yarım; sonu eksik.");
     case HataNo::DosyaBoş:
         return QStringLiteral("Dosya boş.");
+    case HataNo::KlasörlerAyrıDeğil:
+        return QStringLiteral("Yedekler kitaplığın klasöründe, kitaplık da yedeğin içinde olamaz.");
     }
     return QStringLiteral("Bilinmeyen hata.");
 }

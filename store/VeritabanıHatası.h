@@ -36,6 +36,8 @@ enum class HataNo : int
     // These engines have no number for the two ways in which a file can be incomplete.
     DosyaYarım = 3901,
     DosyaBoş = 3902,
+    // Nor for backups.
+    KlasörlerAyrıDeğil = 3903,
 };
 
 /// Thrown by everything in store/. The sentence goes with the number.

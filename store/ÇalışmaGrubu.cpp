@@ -108,6 +108,12 @@ bool ÇalışmaGrubu::KitaplıkParolasıDoğru(const QString& parola)
     return parolaUyar(deyim, parola);
 }
 
+QByteArray ÇalışmaGrubu::KitaplıkTuzu()
+{
+    Deyim deyim(bağlantı_, "SELECT Tuz FROM Kitaplik");
+    return deyim.Adım() ? baytlar(deyim, 0) : QByteArray();
+}
+
 std::vector<User> ÇalışmaGrubu::Hesaplar()
 {
     std::vector<User> hesaplar;

@@ -25,6 +25,8 @@ public:
     /// Whether the name is that of the owner account.
     bool Sahip(const QString& ad);
     bool KitaplıkParolasıDoğru(const QString& parola);
+    /// Random bytes that were drawn when the library was made: they tell its copies from another library's.
+    QByteArray KitaplıkTuzu();
 
     std::vector<User> Hesaplar();
     void Ekle(const User& hesap); ///< throws HesapVar when the name is taken
