@@ -77,8 +77,8 @@ QByteArray anahtarMetni(const Anahtar& anahtar)
 }
 
 // SQLite calls a failed read damage and forgets why a write failed before its caller can ask: what the
-// system said is noted on the way. A connection is one thread's.
-thread_local int sonErişimHatası = 0; // errno; 0 for none since the statement began
+// system said is noted on the way. One thread works on libraries.
+int sonErişimHatası = 0; // errno; 0 for none since the statement began
 ssize_t (*asılOku)(int, void*, std::size_t, off_t) = nullptr;
 ssize_t (*asılYaz)(int, const void*, std::size_t, off_t) = nullptr;
 

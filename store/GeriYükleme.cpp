@@ -222,7 +222,7 @@ GeriYüklemeSonucu GeriYükle(const QString& hedef, const QString& ad, const QSt
     const KlasörKilidi hedefKilidi(hedef);
     if (deneme)
         return dene(nesil, klasör, bildir, an);
-    const GeriYüklemeSonucu sonuç = GeriYükleyici(klasör, an).Yap(nesil, bildir);
+    GeriYüklemeSonucu sonuç = GeriYükleyici(klasör, an).Yap(nesil, bildir);
     yeni->Kalsın();
     return sonuç;
 }

@@ -9,22 +9,17 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cerrno>
-#include <chrono>
-#include <future>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr std::array<QStringView, 2> Çift = {DosyaAdları::Grup, DosyaAdları::Kitaplık};
-constexpr std::chrono::milliseconds BildirimAralığı(20);
 
 bool içerikHatası(HataNo numara)
 {
@@ -77,28 +72,16 @@ std::unique_ptr<ÇalışmaGrubu> sağlamGrup(const QString& yol)
     return grup;
 }
 
-/// Two passes over the file, both of which decipher every page: one for the structure, one for the rows. The
-/// first has a connection and a thread of its own, where the system gives one; the caller is called back in
-/// its own thread.
 ÇiftDurumu kitaplığıDenetle(const QString& klasör, ÇalışmaGrubu& grup, const SürdürmeBildirimi& bildir)
 {
-    // The first opening rolls back what was unfinished.
-    const auto satırlar = KitaplıkBağlantısı(klasör, kip(KitaplıkYolu(klasör, DosyaAdları::Kitaplık)), grup);
-    const auto sayfalar = KitaplıkBağlantısı(klasör, AçmaKipi::Oku, grup);
-    std::atomic<bool> sürüyor = true;
-    sayfalar->SürdürmeAta([&sürüyor] { return sürüyor.load(); });
-    satırlar->SürdürmeAta([&bildir] { return sürsün(bildir); });
-    std::future<YapıDurumu> sayfaDurumu = std::async(std::launch::async | std::launch::deferred, [&sayfalar] {
-        return YapıyıDenetle(*sayfalar, DenetimDerinliği::Sayfalar);
-    });
-    const auto durdur = qScopeGuard([&sürüyor] { sürüyor = false; }); // before the future waits for its end
-    const SatırToplamı toplam = SatırlarıOku(*satırlar);
-    while (sayfaDurumu.wait_for(BildirimAralığı) == std::future_status::timeout)
-        sürmeli(sürsün(bildir));
-    const YapıDurumu durum = GenelDurum(*satırlar, sayfaDurumu.get(), toplam);
+    const auto kitaplık = KitaplıkBağlantısı(klasör, kip(KitaplıkYolu(klasör, DosyaAdları::Kitaplık)), grup);
+    kitaplık->SürdürmeAta([&bildir] { return sürsün(bildir); });
+    const YapıDurumu sayfalar = YapıyıDenetle(*kitaplık, DenetimDerinliği::Sayfalar);
+    const SatırToplamı satırlar = SatırlarıOku(*kitaplık);
+    const YapıDurumu durum = GenelDurum(*kitaplık, sayfalar, satırlar);
     if (durum > YapıDurumu::DizinBozuk)
         throw VeritabanıHatası(HataNo::DosyaBozuk);
-    return {durum, toplam.Satırlar};
+    return {durum, satırlar.Satırlar};
 }
 
 /// @param asıl the folder whose files are named in errors
@@ -190,10 +173,8 @@ bool İçinde(const QString& iç, const QString& dış)
 
 void AyrıOlmalı(const QString& klasör, const QString& yedekler)
 {
-    for (const QString& gerçek : GerçekKlasörler(klasör)) {
-        if (İçinde(yedekler, gerçek))
-            throw VeritabanıHatası(HataNo::KlasörlerAyrıDeğil, yedekler);
-    }
+    if (İçinde(yedekler, klasör) || GerçekKlasörler(klasör).contains(gerçekYol(yedekler)))
+        throw VeritabanıHatası(HataNo::KlasörlerAyrıDeğil, yedekler);
 }
 
 bool Var(const QString& yol)
@@ -241,8 +222,8 @@ YeniKlasör::YeniKlasör(const QString& yol)
 
 YeniKlasör::~YeniKlasör()
 {
-    for (auto yol = yapılanlar_.crbegin(); yol != yapılanlar_.crend(); ++yol)
-        rmdir(QFile::encodeName(*yol).constData());
+    while (!yapılanlar_.isEmpty())
+        rmdir(QFile::encodeName(yapılanlar_.takeLast()).constData());
 }
 
 GeçiciKlasör::GeçiciKlasör(const QString& yol) : yol_(yol)
