@@ -85,6 +85,13 @@ QMap<QString, QByteArray> ağaç(const QString& klasör)
     return bulunan;
 }
 
+void yaz(const QString& klasör, const QMap<QString, QByteArray>& dosyalar)
+{
+    QDir().mkpath(klasör);
+    for (const auto& [ad, baytlar] : dosyalar.asKeyValueRange())
+        DosyaYaz(klasör + ad, baytlar);
+}
+
 QStringList adlar(const QString& hedef)
 {
     QStringList liste;
@@ -113,8 +120,7 @@ void yarımBırak(const QString& klasör)
         bağlantı->Çalıştır("UPDATE Makaleler SET MakaleMetni=MakaleMetni||'yarım', YayimYeri='X'");
         dosyalar = KlasörOku(klasör);
     }
-    for (const auto& [ad, baytlar] : dosyalar.asKeyValueRange())
-        DosyaYaz(klasör + ad, baytlar);
+    yaz(klasör, dosyalar);
 }
 
 } // namespace
@@ -123,14 +129,19 @@ class TestStoreBackup : public QObject
 {
     Q_OBJECT
     QList<Makale> makaleler_;
-    std::unique_ptr<DenemeKitaplığı> kitaplık_;
-    std::unique_ptr<QTemporaryDir> geçici_;
+    QMap<QString, QByteArray> dosyalar_; // of a library with them
+    std::unique_ptr<QTemporaryDir> kitaplık_, geçici_;
     QString klasör_, hedef_; // the first with a separator at its end
 
     YedekSonucu yedekle(int sakla = 10, int saniye = 0, YedekKipi kip = YedekKipi::Yap,
                         const SürdürmeBildirimi& bildir = {}) const
     {
         return Yedekle(klasör_, hedef_, sakla, kip, bildir, An.addSecs(saniye));
+    }
+    /// A generation that is there already.
+    void nesilYaz(const QString& saat) const
+    {
+        yaz(hedef_ + u"/Belgenar-2026-11-25-%1/"_s.arg(saat), dosyalar_);
     }
     /// Runs the work in processes that are killed before the first, second... change, until one gets through.
     /// @param başla sets up before each
@@ -156,15 +167,20 @@ class TestStoreBackup : public QObject
     }
 
 private slots:
-    void init()
+    void initTestCase()
     {
-        makaleler_.clear();
         for (int i = 0; i < 12; ++i)
             makaleler_.append({u"YAZAR %1"_s.arg(i % 5), u"BAŞLIK %1"_s.arg(i), UzunMetin(i, 9'000)});
-        kitaplık_ = std::make_unique<DenemeKitaplığı>(makaleler_);
+        dosyalar_ = KlasörOku(DenemeKitaplığı(makaleler_).Klasör());
+    }
+
+    void init()
+    {
+        kitaplık_ = std::make_unique<QTemporaryDir>();
         geçici_ = std::make_unique<QTemporaryDir>();
-        klasör_ = kitaplık_->Klasör();
+        klasör_ = kitaplık_->path() + u'/';
         hedef_ = geçici_->path() + u"/yeni/yedekler"_s;
+        yaz(klasör_, dosyalar_);
     }
 
     void utf8()
@@ -196,9 +212,10 @@ private slots:
             struct stat bilgi = {};
             QVERIFY(stat(QFile::encodeName(yol), &bilgi) == 0 && (bilgi.st_mode & (S_IRWXG | S_IRWXO)) == 0);
         }
-        for (int i = 0; i < 9; ++i)
-            yedekle(20);
-        QCOMPARE(adlar(hedef_).mid(0, 2), QStringList({ad + u"-10"_s, ad + u"-9"_s}));
+        for (int i = 2; i < 10; ++i)
+            QDir(hedef_).mkdir(ad + u"-%1"_s.arg(i));
+        yedekle(20);
+        QCOMPARE(adlar(hedef_).mid(0, 2), QStringList({ad + u"-10"_s, ad + u"-9!3024"_s}));
         yedekle(1, 1);
         QCOMPARE(adlar(hedef_), QStringList(u"Belgenar-2026-11-25-154446"_s));
     }
@@ -207,9 +224,8 @@ private slots:
     {
         const auto ad = [](int saniye) { return u"Belgenar-2026-11-25-1544%1"_s.arg(45 + saniye); };
         const auto nesil = [&](int saniye) { return hedef_ + u'/' + ad(saniye); };
-        for (int saniye = 0; saniye < 4; ++saniye)
-            yedekle(10, saniye);
-        yedekle(10, 14); // later than now
+        for (int saniye : {0, 1, 2, 3, 14}) // the last one is later than now
+            nesilYaz(u"1544%1"_s.arg(45 + saniye));
         DosyaYaz(nesil(0) + u"/not.txt"_s, "x");
         DosyaYaz(nesil(1) + u'/' + Tps, "x"); // damaged, but ours
         const DenemeKitaplığı başka;
@@ -260,7 +276,7 @@ private slots:
         QFETCH(const QString, dosya);
         QFETCH(const int, boy);
         QFETCH(const int, hata);
-        yedekle();
+        nesilYaz(u"154445"_s);
         DosyaYaz(klasör_ + u"../dosya"_s, "x");
         const auto sil = qScopeGuard([&] { QFile::remove(klasör_ + u"../dosya"_s); });
         QVERIFY(QFile::link(klasör_, geçici_->filePath(u"L"_s)));
@@ -355,14 +371,10 @@ private slots:
 
     void killedBackup()
     {
-        const auto dosyalar = KlasörOku(klasör_);
         const auto hazırla = [&] {
             QDir(hedef_).removeRecursively();
-            for (const QString& ad : {u"/Belgenar-2026-11-25-154445/"_s, u"/Belgenar-2026-11-25-154446/"_s}) {
-                QDir().mkpath(hedef_ + ad);
-                for (const auto& [dosya, baytlar] : dosyalar.asKeyValueRange())
-                    DosyaYaz(hedef_ + ad + dosya, baytlar);
-            }
+            nesilYaz(u"154445"_s);
+            nesilYaz(u"154446"_s);
         };
         const int öldürülen = öldür(
             hazırla, [&] { yedekle(1, 2); },
@@ -379,7 +391,8 @@ private slots:
 
     void killedRestoring()
     {
-        const QString ad = QFileInfo(yedekle().Yol).fileName(), nesil = hedef_ + u'/' + ad + u'/';
+        nesilYaz(u"154445"_s);
+        const QString ad = u"Belgenar-2026-11-25-154445"_s, nesil = hedef_ + u'/' + ad + u'/';
         // What stands there is another library, as a crash left it, with its spare copy.
         const QList<Makale> eskiler = {{u"ESKİ"_s, u"ESKİ 1"_s, UzunMetin(1, 900'000)},
                                        {u"ESKİ"_s, u"ESKİ 2"_s, u"m"_s}};
@@ -390,9 +403,7 @@ private slots:
         const QString yer = geçici_->path() + u"/program/"_s;
         const auto hazırla = [&] {
             QDir(yer).removeRecursively();
-            QDir().mkpath(yer);
-            for (const auto& [dosya, baytlar] : dosyalar.asKeyValueRange())
-                DosyaYaz(yer + dosya, baytlar);
+            yaz(yer, dosyalar);
             DosyaYaz(yer + u"Makale.md_"_s, "md_");
         };
         int kitaplıksız = 0;
