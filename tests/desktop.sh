@@ -9,7 +9,11 @@ cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-export HOME=$work/ev XDG_DATA_HOME="$work/ev/veri klasörü"
+export HOME=$work/ev XDG_DATA_HOME="$work/ev/veri klasörü" XDG_CONFIG_HOME="$work/ev/ayar %h"
+mkdir -p "$work/bin" # the service manager's stand-in: it notes what it is told, and refuses while told so
+printf '#!/bin/sh\necho "$@" >>"%s"\n! [ -e "%s" ]\n' "$work/soylenen" "$work/ret" >"$work/bin/systemctl"
+chmod +x "$work/bin/systemctl"
+export PATH=$work/bin:$PATH
 data=$XDG_DATA_HOME
 id=example.tepsan.belgenar
 entry=$data/applications/$id.desktop
@@ -71,14 +75,41 @@ launched_as() { # launched_as PROGRAM
 }
 check_with gio "menüden program başlar" launched_as "$place/Belgenar/belgenar"
 
+# The daily backup.
+unit=$XDG_CONFIG_HOME/systemd/user/belgenar-yedek
+target="$work/yedek \"%t\" 'x' \$HOME \\n"
+equal_after() { "$place/run" --kur --yedek "$1" && grep -qF 'enable --now belgenar-yedek.timer' "$work/soylenen"; }
+check "--yedek zamanlayıcıyı kurar" equal_after "$target"
+verified() { export XDG_RUNTIME_DIR=$work; systemd-analyze --user verify "$unit.service" "$unit.timer" && systemd-analyze calendar "$(sed -n 's/^OnCalendar=//p' "$unit.timer")"; }
+check_with systemd-analyze "konan birimler geçerlidir" verified
+# What systemd makes of ExecStart: words, then specifiers, then variables.
+arguments() { # prints the command's words, one a line
+    sed -n 's/^ExecStart=//p' "$unit.service" | perl -CSDA -ne 'while (/\G\s*("((?:[^"\\]|\\.)*)"|\S+)/gc) {
+        my $w = defined $2 ? $2 : $1; $w =~ s/\\(.)/$1/g; $w =~ s/%%/%/g; $w =~ s/\$\$/\$/g; print "$w\n" }'
+}
+check "yedeğin komutu doğru yazılıdır" equal "$(arguments | tail -n 3)" \
+    "$place/Belgenar/belgenar-kitaplik"$'\n'"$place/Belgenar"$'\n'"$target"
+relative() { (cd "$work" && "$place/run" --kur --yedek "göreli klasör" && [ "$(arguments | tail -n 1)" = "$work/göreli klasör" ]); }
+check "göreli hedef çağıranın klasöründendir" relative
+inside() { ! "$place/run" --kur --yedek "$place/Belgenar/../Belgenar/y"; }
+check "program klasöründeki hedef geri çevrilir" inside
+told_how() { touch "$work/ret" && "$place/run" --kur --yedek "$target" | grep -F 'systemctl --user enable'; }
+check "hizmet yöneticisi yoksa yol gösterilir" told_how
+rm -f "$work/ret"
+offered() { "$place/run" --kur | grep -F -e '--yedek' && [ -e "$unit.timer" ]; }
+check "--kur yedeği önerir, kurulu olana dokunmaz" offered
+
 # Another folder's entry stays, and goes once that folder's program is gone.
 cp -r "$place" "$work/baska"
 "$work/baska/run" --kur >/dev/null
+others_backup() { ! "$work/baska/run" --kur --yedek "$work/y" && ! "$work/baska/run" --kaldır && grep -qF "$place/" "$unit.service"; }
+check "başka klasörün yedeğine dokunulmaz" others_backup
 refused() { ! "$place/run" --kaldır && [ -e "$entry" ]; }
 check "başka klasörün girişine dokunulmaz" refused
 rm -r "$work/baska"
 check "--kaldır ölü girişi kaldırır" "$place/run" --kaldır
 check "--kaldır başka bir şeye dokunmaz" diff "$work/once" <(listing "$data")
+check "--kaldır yedeği de kaldırır" test ! -e "$XDG_CONFIG_HOME/systemd"
 check "--kaldır yinelenebilir" "$place/run" --kaldır
 check "program klasörü ve kitaplık aynı kalır" diff "$work/klasor" <(listing "$place")
 
