@@ -33,8 +33,8 @@ struct ÇiftDurumu
 /// @param klasör, hedef with a separator at their ends
 ÇiftDurumu ÇiftiKopyala(const QString& klasör, const QString& hedef, const SürdürmeBildirimi& bildir);
 
-/// Throws KlasörlerAyrıDeğil where the backups' folder is the library's, lies in it, or is one in which the library's
-/// files really lie, by whatever links.
+/// Throws KlasörlerAyrıDeğil where the backups' folder is the library's, lies in it, or is one in which the
+/// library's files really lie, by whatever links.
 void AyrıOlmalı(const QString& klasör, const QString& yedekler);
 /// Whether a folder is another one or lies in it, by whatever links. They need not exist.
 bool İçinde(const QString& iç, const QString& dış);
