@@ -341,6 +341,12 @@ private slots:
         QCOMPARE(GeriYükle(hedef_, ad, yeni, YedekKipi::Yap).ÖncekiYol, QString());
         QVERIFY(oku(yeni) == makaleler_ && ağaç(yeni).size() == 2);
 
+        // As a kill between the last two steps leaves an empty folder.
+        QDir().mkpath(yeni + u"Onceki-2026-11-25-154445~/yeni"_s);
+        QVERIFY(QFile::rename(yeni + Mde, yeni + u"Onceki-2026-11-25-154445~/yeni/"_s + Mde));
+        QCOMPARE(GeriYükle(hedef_, ad, yeni, YedekKipi::Yap).ÖncekiYol, QString());
+        QVERIFY(oku(yeni) == makaleler_ && ağaç(yeni).size() == 2);
+
         // Over a library that is a link: the file stays where it is.
         const QString asıl = geçici_->filePath(u"asıl.mde"_s);
         değiştir(yeni, "DELETE FROM Makaleler WHERE Kimlik>3");
