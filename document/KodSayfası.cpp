@@ -212,3 +212,12 @@ QString KodSayfası::Harf(std::string_view baytlar) const
 {
     return çevirici_ ? çevirici_->çevir(baytlar) : QString();
 }
+
+QString Windows1254Çöz(QByteArrayView baytlar)
+{
+    const KodSayfası sayfa(KodSayfası::Windows1254);
+    QString metin(baytlar.size(), Qt::Uninitialized);
+    std::transform(baytlar.begin(), baytlar.end(), metin.data(),
+                   [&sayfa](char bayt) { return QChar(sayfa.Harf(static_cast<unsigned char>(bayt))); });
+    return metin;
+}

@@ -1,6 +1,7 @@
 // Bytes of a code page made into letters.
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <array>
@@ -37,3 +38,6 @@ private:
     std::array<char16_t, 256> harfler_{};
     std::array<quint8, 256> boylar_{};
 };
+
+/// A whole text of Windows-1254.
+QString Windows1254Çöz(QByteArrayView baytlar);

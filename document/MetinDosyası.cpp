@@ -120,15 +120,6 @@ private:
     int no_ = -1;
 };
 
-QString windows1254(QByteArrayView baytlar)
-{
-    const KodSayfası sayfa(KodSayfası::Windows1254);
-    QString metin(baytlar.size(), Qt::Uninitialized);
-    std::transform(baytlar.begin(), baytlar.end(), metin.data(),
-                   [&sayfa](char bayt) { return QChar(sayfa.Harf(static_cast<unsigned char>(bayt))); });
-    return metin;
-}
-
 // Letters and signs of the alphabets of Europe.
 bool avrupalı(char16_t harf)
 {
@@ -189,7 +180,7 @@ QString harfleriAl(QByteArrayView baytlar)
         at(QStringLiteral("Bu bir metin dosyası değil."));
     if (imzalı("\xEF\xBB\xBF")) // it says so itself; wrong bytes don't make it Turkish Windows text
         return Utf8Çöz(baytlar.sliced(3));
-    return utf8Mi(baytlar) ? Utf8Çöz(baytlar) : windows1254(baytlar);
+    return utf8Mi(baytlar) ? Utf8Çöz(baytlar) : Windows1254Çöz(baytlar);
 }
 
 bool satırSonu(char16_t harf)
