@@ -1,8 +1,6 @@
 #include "tools/JsonSatırları.h"
 
 #include "store/KitaplıkDenetimi.h"
-#include "store/SistemHatası.h"
-#include "store/VeritabanıHatası.h"
 #include "tools/AraçHatası.h"
 #include "tools/Durdurma.h"
 
@@ -13,16 +11,10 @@
 #include <QUtf8StringView>
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
 constexpr QByteArrayView BaytSırasıİmi = "\xef\xbb\xbf";
-constexpr qsizetype ParçaBoyu = 65536;
-// Longer than any line that the library could take, unless most of it is written as escapes.
-constexpr qsizetype EnUzunSatır = 1'000'000'000;
 constexpr qsizetype EnUzunAlıntı = 40; // characters of a wrong name that a message repeats
 
 /// The text as a JSON string with its quotes.
@@ -114,15 +106,6 @@ Makale makaleÇöz(const QByteArray& satır)
     return makale;
 }
 
-/// Not waiting for the other end of a named pipe, which reading does in its turn.
-int girdiyiAç(const QString& yol)
-{
-    const int tanıtıcı = open(QFile::encodeName(yol).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (tanıtıcı < 0)
-        SistemHatasıVer(errno, Erişim::Okuma, yol);
-    return tanıtıcı;
-}
-
 } // namespace
 
 QByteArray MakaleSatırı(const Makale& makale)
@@ -135,55 +118,9 @@ QByteArray MakaleSatırı(const Makale& makale)
     return satır + "}\n";
 }
 
-JsonSatırları::JsonSatırları(const QString& yol, const DurdurmaBekçisi& bekçi)
-    : ad_(yol == u'-' ? QStringLiteral("standart girdi") : yol), girdi_(yol == u'-'), bekçi_(bekçi)
-{
-    const bool açıldı = girdi_
-                            ? dosya_.open(STDIN_FILENO, QIODevice::ReadOnly)
-                            : dosya_.open(girdiyiAç(yol), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    if (!açıldı)
-        throw VeritabanıHatası(HataNo::DiskHatası, ad_);
-}
-
-/// Not through Qt, which goes on waiting when it is interrupted. @return false at the end
-bool JsonSatırları::parçaOku()
-{
-    parça_.resize(ParçaBoyu);
-    parçaYeri_ = 0;
-    ssize_t boy = 0;
-    do {
-        bekçi_.OkunurOlsun(dosya_.handle());
-        boy = read(dosya_.handle(), parça_.data(), std::size_t(ParçaBoyu));
-    } while (boy < 0 && (errno == EINTR || errno == EAGAIN));
-    if (boy < 0)
-        SistemHatasıVer(errno, Erişim::Okuma, ad_);
-    parça_.resize(boy);
-    okunan_ += boy;
-    return boy > 0;
-}
-
-bool JsonSatırları::satırOku()
-{
-    satır_.clear();
-    while (!satır_.endsWith('\n') && (parçaYeri_ < parça_.size() || parçaOku())) {
-        const qsizetype son = parça_.indexOf('\n', parçaYeri_);
-        const qsizetype boy = (son < 0 ? parça_.size() : son + 1) - parçaYeri_;
-        satır_ += QByteArrayView(parça_).sliced(parçaYeri_, boy);
-        parçaYeri_ += boy;
-        if (satır_.size() > EnUzunSatır)
-            throw AraçHatası(
-                QStringLiteral("%1, %2. satır: Satır çok uzun.").arg(ad_, QString::number(satırNo_ + 1)));
-    }
-    if (satır_.isEmpty())
-        return false;
-    if (++satırNo_ == 1 && satır_.startsWith(BaytSırasıİmi))
-        satır_.remove(0, BaytSırasıİmi.size());
-    return true;
-}
-
 std::optional<Makale> JsonSatırları::Sonraki()
 {
-    while (satırOku()) {
+    while (satırlar_.Oku(satır_)) {
         bekçi_.Bak();
         if (satır_.trimmed().isEmpty())
             continue;
@@ -191,16 +128,8 @@ std::optional<Makale> JsonSatırları::Sonraki()
             return makaleÇöz(satır_);
         } catch (const AraçHatası& hata) {
             bekçi_.Bak(); // then it is the interruption that ended it
-            throw AraçHatası(
-                QStringLiteral("%1, %2. satır: %3").arg(ad_, QString::number(satırNo_), hata.Açıklama()));
+            satırlar_.HataVer(satırlar_.SatırNo(), hata.Açıklama());
         }
     }
     return {};
-}
-
-void JsonSatırları::BaşaDön()
-{
-    dosya_.seek(0);
-    parça_.clear();
-    parçaYeri_ = okunan_ = satırNo_ = 0;
 }
