@@ -67,8 +67,10 @@ bool MetinSatırları::Oku(QByteArray& satır)
     }
     if (satır.isEmpty())
         return false;
-    if (++satırNo_ == 1 && satır.startsWith(BaytSırasıİmi))
+    if (++satırNo_ == 1 && satır.startsWith(BaytSırasıİmi)) {
+        imli_ = true;
         satır.remove(0, BaytSırasıİmi.size());
+    }
     return true;
 }
 

@@ -29,6 +29,8 @@ public:
     /// A sentence about a line, as an error that names file and line.
     [[noreturn]] void HataVer(qint64 satırNo, const QString& cümle) const;
 
+    /// Whether the first line began with a byte order mark.
+    bool İmli() const { return imli_; }
     /// Whether the lines can be read once only: a pipe, or the standard input.
     bool BirKezOkunur() const { return girdi_ || dosya_.isSequential(); }
     /// Back to the first line.
@@ -45,6 +47,7 @@ private:
     const DurdurmaBekçisi& bekçi_;
     QFile dosya_;
     char son_ = '\n';
+    bool imli_ = false;
     qint64 okunan_ = 0;
     QByteArray parça_;        // what was read last
     qsizetype parçaYeri_ = 0; // where the next line begins in it
