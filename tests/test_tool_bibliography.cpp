@@ -63,9 +63,9 @@ private slots:
               "Ali Kaya, Türk Dil and Kurumu, M. F. Köprülü, Juan de la Cruz, Ayşe Tan, Ali İhsan ve "
               "diğerleri|T|||");
         satır("bib letters",
-              bib("journal = {\\u{g}\\^a \\i{} \\oe{} 50\\% \\textbackslash{} \\{\\} \\ldots{} a~b},"
+              bib("journal = {\\u{g}\\^a \\i{} \\oe{} 50\\% \\textbackslash{} \\{\\} \\ldots{} a~b 5$},"
                   "subtitle = {Alt}"),
-              "Ali Kaya|T: Alt|ğâ ı œ 50% \\ {} … a b||");
+              "Ali Kaya|T: Alt|ğâ ı œ 50% \\ {} … a b 5$||");
         satır("bib abbreviations",
               "@string{mil = \"Mil\" # {liyet}}\n@comment{ @article{x, } }\n@preamble{\"x\"}\n"
               "% @article{kapalı,\nyorum a@b.c {}\n" +

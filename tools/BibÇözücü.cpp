@@ -17,6 +17,7 @@ namespace {
 
 // Signs that the library must not see as LaTeX go through it as private letters, this one for NUL and so on.
 constexpr char32_t GizliHarfler = 0xF0000;
+constexpr qsizetype EnUzunAlıntı = 12; // letters of an unknown code that a message repeats
 
 struct Kod
 {
@@ -103,9 +104,17 @@ QString gizliyiAç(const QString& metin)
     return sonuç;
 }
 
-[[noreturn]] void bilinmeyenKod(const QByteArray& kod)
+[[noreturn]] void bilinmeyenKod(const QString& kod)
 {
-    throw AraçHatası(QStringLiteral("“\\%1” diye bir LaTeX kodu bilinmiyor.").arg(QString::fromUtf8(kod)));
+    throw AraçHatası(QStringLiteral("“\\%1” diye bir LaTeX kodu bilinmiyor.").arg(kod));
+}
+
+/// What the library made of a value, as text. It leaves codes standing that it doesn't know.
+QString çözülen(const QString& metin)
+{
+    if (const qsizetype yer = metin.indexOf(u'\\'); yer >= 0)
+        bilinmeyenKod(gizliyiAç(metin.mid(yer + 1, EnUzunAlıntı)).simplified());
+    return gizliyiAç(metin).trimmed();
 }
 
 bool harfMi(char harf)
@@ -259,7 +268,7 @@ qsizetype BibÇözücü::koduHazırla(const QByteArray& değer, qsizetype yer, Q
         else if (QByteArrayView("'`^\"~=.").contains(harf))
             sonuç += değer.sliced(yer, 2);
         else if (!QByteArrayView("-/!@()[]").contains(harf))
-            bilinmeyenKod(QByteArray(1, harf));
+            bilinmeyenKod(QString::fromUtf8(değer.mid(yer + 1, EnUzunAlıntı)).left(1));
         return std::min(son + 1, değer.size());
     }
     const QByteArray kod = değer.sliced(yer + 1, son - yer - 1);
@@ -267,7 +276,7 @@ qsizetype BibÇözücü::koduHazırla(const QByteArray& değer, qsizetype yer, Q
         std::find_if(Kodlar.begin(), Kodlar.end(), [&kod](const Kod& k) { return k.ad == kod; });
     if (bizim == Kodlar.end()) {
         if (!(kod.size() == 1 && VurguHarfleri.contains(kod[0])) && !biliniyor(kod))
-            bilinmeyenKod(kod);
+            bilinmeyenKod(QString::fromUtf8(kod));
         sonuç += '\\' + kod;
         return son;
     }
@@ -279,6 +288,8 @@ qsizetype BibÇözücü::koduHazırla(const QByteArray& değer, qsizetype yer, Q
 
 QByteArray BibÇözücü::hazırla(const QByteArray& değer)
 {
+    // One without a partner is money.
+    const bool tekDolar = (değer.count('$') - değer.count("\\$")) % 2 != 0;
     QByteArray sonuç;
     sonuç.reserve(değer.size());
     for (qsizetype yer = 0; yer < değer.size();) {
@@ -286,10 +297,12 @@ QByteArray BibÇözücü::hazırla(const QByteArray& değer)
             yer = koduHazırla(değer, yer, sonuç);
             continue;
         }
-        if (değer[yer] == '\n' || değer[yer] == '"') // kept; no typographic quotation mark
-            sonuç += gizli(değer[yer]);
+        const char harf = değer[yer];
+        if (harf == '\n' || harf == '"' ||
+            (harf == '$' && tekDolar)) // else the quotation mark becomes another
+            sonuç += gizli(harf);
         else
-            sonuç += değer[yer];
+            sonuç += harf;
         ++yer;
     }
     return sonuç;
@@ -301,10 +314,7 @@ QString BibÇözücü::Latex(const QByteArray& değer)
         return {};
     const QStringList sonuç =
         sor(*bib_, "@article{k,\n abstract = {" + hazırla(değer) + "}\n}\n", "ABSTRACT");
-    const QString metin = sonuç.value(0);
-    if (const qsizetype yer = metin.indexOf(u'\\'); yer >= 0)
-        bilinmeyenKod(metin.sliced(yer + 1, std::min<qsizetype>(10, metin.size() - yer - 1)).toUtf8());
-    return gizliyiAç(metin).trimmed();
+    return çözülen(sonuç.value(0));
 }
 
 QStringList BibÇözücü::BibAdları(const QByteArray& değer)
@@ -313,11 +323,8 @@ QStringList BibÇözücü::BibAdları(const QByteArray& değer)
         return {};
     QStringList adlar;
     const QByteArray alan = adıHazırla(hazırla(değer.simplified()));
-    for (const QString& ad : sor(*bib_, "@article{k,\n author = {" + alan + "}\n}\n", "AUTHOR")) {
-        if (const qsizetype yer = ad.indexOf(u'\\'); yer >= 0)
-            bilinmeyenKod(ad.sliced(yer + 1).toUtf8());
-        adlar += gizliyiAç(söylenen(ad));
-    }
+    for (const QString& ad : sor(*bib_, "@article{k,\n author = {" + alan + "}\n}\n", "AUTHOR"))
+        adlar += çözülen(söylenen(ad));
     return adlar;
 }
 
