@@ -18,7 +18,9 @@ constexpr double OranAmacı = 5.5;
 // Below this size the fixed work of deriving keys is most of an opening, whatever the copying costs.
 constexpr int AmaçlıMakaleSayısı = 10'000;
 
-void kopyala(const QString& kaynak, const QString& hedef)
+} // namespace
+
+void DosyayıKopyala(const QString& kaynak, const QString& hedef)
 {
     const int okunan = open(QFile::encodeName(kaynak).constData(), O_RDONLY | O_CLOEXEC);
     const int yazılan = open(QFile::encodeName(hedef).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
@@ -34,8 +36,6 @@ void kopyala(const QString& kaynak, const QString& hedef)
     Sağla(tamam, "a whole copy of the library file");
 }
 
-} // namespace
-
 void Sağla(bool doğru, const char* beklenen)
 {
     if (!doğru)
@@ -48,7 +48,7 @@ void AçılışıÖlç(const KapalıOrtam& ortam)
     const QString kopya = ProgramKlasörü + QStringLiteral("karşılaştırma");
     Ölçüm ölçüm{QStringLiteral("Sıkıştırarak açma"), [] { AçıkOturum.Aç(ProgramKlasörü); },
                 QStringLiteral("dosyayı kopyalayıp diske yazma"),
-                [&kopya] { kopyala(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Kitaplık), kopya); }, 5};
+                [&kopya] { DosyayıKopyala(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Kitaplık), kopya); }, 5};
     if (büyük)
         ölçüm.Hedef = Amaç{Amaç::Tür::Oran, OranAmacı};
     ölçüm.İşHazırlığı = [] { AçıkOturum.Bırak(); };

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::array KapalıÖlçümler = {&AçılışıÖlç};
+constexpr std::array KapalıÖlçümler = {&AçılışıÖlç, &AracıÖlç};
 constexpr std::array PencereÖlçümleri = {&YazarListesiniÖlç, &YazarTıklamasınıÖlç, &BaşlıkTıklamasınıÖlç,
                                          &ÖnekBulmayıÖlç,    &TümündeBulmayıÖlç,   &GirişPencereleriniÖlç,
                                          &GirişiÖlç,         &KaydetmeyiÖlç,       &SilmeyiÖlç};

@@ -24,6 +24,8 @@ struct PencereOrtamı
 // On a closed library; it is closed again when they return.
 void AçılışıÖlç(const KapalıOrtam& ortam);
 
+void AracıÖlç(const KapalıOrtam& ortam);
+
 // In the main window.
 void YazarListesiniÖlç(const PencereOrtamı& ortam);
 void YazarTıklamasınıÖlç(const PencereOrtamı& ortam);
@@ -39,6 +41,9 @@ void SilmeyiÖlç(const PencereOrtamı& ortam);
 void UzunMakaleyiÖlç(const PencereOrtamı& ortam);
 void İşaretlemeyiÖlç(const PencereOrtamı& ortam);
 void RtfYüklemeyiÖlç(const PencereOrtamı& ortam);
+
+/// Copies a file and waits for the disk: what work on whole libraries is compared with.
+void DosyayıKopyala(const QString& kaynak, const QString& hedef);
 
 /// Throws when a measurement did not do what it is named after.
 void Sağla(bool doğru, const char* beklenen);

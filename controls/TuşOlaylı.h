@@ -10,8 +10,6 @@
 struct TuşKodları // no namespace: moc can't read one with such a name
 {
     static constexpr char16_t Enter = 13;
-    static constexpr char16_t Kesme = 39;
-    static constexpr char16_t Aksan = 180; ///< the acute accent, which breaks no query
 };
 
 /// Gives a widget the event KeyPress, fired for each typed character, which the handler may replace or

@@ -18,8 +18,7 @@ void EnterSekmeOlsun(QWidget& kontrol, char16_t& kod)
 
 void KesmeAksanOlsun(char16_t& kod)
 {
-    if (kod == TuşKodları::Kesme)
-        kod = TuşKodları::Aksan;
+    kod = YazılanHarf(kod);
 }
 
 void HarfBüyüsün(char16_t& kod)

@@ -9,6 +9,7 @@
 #include "controls/Etiketler.h"
 #include "controls/TuşSüzgeci.h"
 #include "document/MetinDosyası.h"
+#include "store/MakaleKuralları.h"
 #include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
 #include "text/TürkçeTarih.h"
@@ -26,9 +27,6 @@ namespace {
 
 constexpr int OlağanGenişlik = 9600; // twips
 constexpr int OlağanYükseklik = 8400;
-constexpr int EnUzunBaşlık = 255; // letters
-constexpr int EnUzunYer = 50;
-constexpr int EnUzunTarih = 20;
 
 /// Where the file chosen last lies, else the user's documents; home where that folder is gone.
 QString başlangıçKlasörü()
@@ -75,11 +73,13 @@ void MakaleGirişFormu::kontrolleriKur(const Adlar& adlar)
     for (std::size_t i = 0; i < Etiket.size(); ++i)
         EtiketiKur(Etiket[i], i, etiketler[i], *alanlar()[i]);
 
-    // Longer names are refused by the library: better not typed at all.
-    YazarAdıListesi.lineEdit()->setMaxLength(static_cast<int>(Tanım(MakaleSütunu::YazarAdi).enUzun));
-    MakaleBaşlığıKutusu.setMaxLength(EnUzunBaşlık);
-    YayımYeriKutusu.setMaxLength(EnUzunYer);
-    YayımTarihiKutusu.setMaxLength(EnUzunTarih);
+    const auto uzunluğuKoy = [](QLineEdit& kutu, MakaleSütunu sütun) {
+        kutu.setMaxLength(static_cast<int>(Tanım(sütun).yazılabilen));
+    };
+    uzunluğuKoy(*YazarAdıListesi.lineEdit(), MakaleSütunu::YazarAdi);
+    uzunluğuKoy(MakaleBaşlığıKutusu, MakaleSütunu::MakaleBasligi);
+    uzunluğuKoy(YayımYeriKutusu, MakaleSütunu::YayimYeri);
+    uzunluğuKoy(YayımTarihiKutusu, MakaleSütunu::YayimTarihi);
     MakaleMetniKutusu.setUndoRedoEnabled(true);
 
     const auto düğmeKur = [](Düğme& düğme, const QString& ad, İleti metin) {
@@ -189,24 +189,24 @@ bool MakaleGirişFormu::alanlarTamam()
 {
     odakEtiketi_.Ayrıl();
     odakGözcüsü_.Ayrıl();
-    struct Kural
-    {
-        bool eksik;
-        İleti ileti;
-        QWidget& alan;
-    };
-    const QString yazar = YazarAdıListesi.Text();
-    for (const Kural& kural :
-         {Kural{yazar.isEmpty(), İleti::YazarAdıBoş, YazarAdıListesi},
-          Kural{!yazar.contains(u' '), İleti::YazarAdıTekSözcük, YazarAdıListesi},
-          Kural{MakaleBaşlığıKutusu.Text().isEmpty(), İleti::MakaleBaşlığıBoş, MakaleBaşlığıKutusu},
-          Kural{YayımYeriKutusu.Text().isEmpty(), İleti::YayımYeriBoş, YayımYeriKutusu},
-          Kural{MakaleMetniKutusu.document()->isEmpty(), İleti::MakaleMetniBoş, MakaleMetniKutusu}}) {
-        if (!kural.eksik)
-            continue;
-        İletiGöster(Metin(kural.ileti), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
-        kural.alan.setFocus();
+    const auto söyle = [](İleti ileti, QWidget& alan) {
+        İletiGöster(Metin(ileti), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
+        alan.setFocus();
         return false;
+    };
+    switch (EksiğiBul(girilen())) {
+    case MakaleEksiği::YazarAdıBoş:
+        return söyle(İleti::YazarAdıBoş, YazarAdıListesi);
+    case MakaleEksiği::YazarAdıTekSözcük:
+        return söyle(İleti::YazarAdıTekSözcük, YazarAdıListesi);
+    case MakaleEksiği::BaşlıkBoş:
+        return söyle(İleti::MakaleBaşlığıBoş, MakaleBaşlığıKutusu);
+    case MakaleEksiği::YerBoş:
+        return söyle(İleti::YayımYeriBoş, YayımYeriKutusu);
+    case MakaleEksiği::MetinBoş:
+        return söyle(İleti::MakaleMetniBoş, MakaleMetniKutusu);
+    case MakaleEksiği::Yok:
+        break;
     }
     return true;
 }

@@ -4,8 +4,8 @@
 
 export LC_ALL=C.UTF-8 # window captions and file names are not ASCII; always there on Debian
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlcipher-dev libicu-dev libcups2-dev
-    libbibutils-dev"
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libsqlcipher-dev libssl-dev libicu-dev libcups2-dev
+    libbibutils-dev libcsv-dev"
 RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation x11-utils"
 VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
 # A print service with a printer that writes PDF (cups-*, poppler-utils); the public validators of the desktop

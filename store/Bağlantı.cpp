@@ -2,6 +2,7 @@
 
 #include "store/BenzerDeseni.h"
 #include "store/DosyaTanıma.h"
+#include "store/SayfaŞifresi.h"
 #include "store/SistemHatası.h"
 #include "store/Utf8Metni.h"
 #include "text/TürkçeSıralama.h"
@@ -20,8 +21,6 @@
 
 namespace {
 
-// Large pages halve the cipher's work for long texts. Part of the file format.
-constexpr int SayfaBoyu = 16384;
 constexpr int KilitBekleme = 500;      // ms that another process's short lock is waited for
 constexpr int İlerlemeAdımı = 500;     // machine steps between two looks at the clock
 constexpr qint64 BildirimAralığı = 20; // ms
@@ -204,6 +203,8 @@ Bağlantı::Bağlantı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip
     if (kip != AçmaKipi::Oluştur && QFileInfo(yol).size() < Sayı("PRAGMA page_count") * SayfaBoyu)
         throw VeritabanıHatası(HataNo::DosyaYarım, yol);
     Çalıştır("PRAGMA synchronous=EXTRA");
+    // What was deleted must not stand on a page from which a rescue would bring it back.
+    Sayı("PRAGMA secure_delete=ON");
 }
 
 Bağlantı::~Bağlantı() = default;
@@ -238,9 +239,11 @@ int Bağlantı::dene(const char* sql) const
 
 void Bağlantı::anahtarıVer(const Anahtar& anahtar)
 {
-    const QByteArray değer = anahtarMetni(anahtar);
-    if (değer.isEmpty()) // would be taken for a file in the clear
+    if (anahtar.değer.isEmpty()) // would be taken for a file in the clear
         throw VeritabanıHatası(HataNo::ParolaYanlış, yol_);
+    const QByteArray tuz = Tuz();
+    const bool türetilir = anahtar.tür == AnahtarTürü::Parola && !tuz.isEmpty();
+    const QByteArray değer = anahtarMetni(türetilir ? TuzluAnahtar(anahtar.değer, tuz) : anahtar);
     denetle(sqlite3_key(db_.get(), değer.constData(), static_cast<int>(değer.size())));
     sürüm4_ = Metin("PRAGMA cipher_version").startsWith(u'4');
     if (sürüm4_) // the files are version 3's
@@ -248,6 +251,16 @@ void Bağlantı::anahtarıVer(const Anahtar& anahtar)
     Sayı("PRAGMA cipher_page_size=" + QByteArray::number(SayfaBoyu));
     // Sorted texts must not go to a temporary file in the clear.
     Çalıştır("PRAGMA temp_store=MEMORY");
+}
+
+QByteArray Bağlantı::Tuz() const
+{
+    sqlite3_file* dosya = nullptr;
+    QByteArray tuz(TuzBoyu, Qt::Uninitialized);
+    const int durum = sqlite3_file_control(db_.get(), "main", SQLITE_FCNTL_FILE_POINTER, &dosya);
+    const bool okundu = durum == SQLITE_OK && dosya->pMethods &&
+                        dosya->pMethods->xRead(dosya, tuz.data(), int(TuzBoyu), 0) == SQLITE_OK;
+    return okundu ? tuz : QByteArray();
 }
 
 void Bağlantı::hataVer(int durum, bool adımda) const
@@ -391,7 +404,7 @@ int Bağlantı::ilerleme(void* bağlantı)
     return sürsün ? 0 : 1;
 }
 
-void Bağlantı::SayfayıTabloSay(qint64 sayfa, std::initializer_list<const char*> sql)
+void Bağlantı::SayfalarıTabloSay(const std::vector<std::pair<qint64, QByteArray>>& tablolar)
 {
     // SQLite's own means for tools that look at a file's parts: while it is on, a table that is created
     // is taken to be there already, at that page.
@@ -400,9 +413,9 @@ void Bağlantı::SayfayıTabloSay(qint64 sayfa, std::initializer_list<const char
     };
     kip(0, 1);                                  // forgets all tables
     Sayı("SELECT count(*) FROM sqlite_master"); // and this learns the file's own ones again
-    for (const char* deyim : sql) {
+    for (const auto& [sayfa, sql] : tablolar) {
         kip(1, sayfa);
-        const int durum = sqlite3_exec(db_.get(), deyim, nullptr, nullptr, nullptr);
+        const int durum = sqlite3_exec(db_.get(), sql.constData(), nullptr, nullptr, nullptr);
         kip(0, 0);
         denetle(durum);
     }
@@ -442,6 +455,13 @@ Deyim& Deyim::Bağla(int sıra, const QByteArray& baytlar)
 {
     bağlantı_.denetle(sqlite3_bind_blob64(deyim_.get(), sıra, baytlar.constData(),
                                           static_cast<sqlite3_uint64>(baytlar.size()), SQLITE_TRANSIENT));
+    return *this;
+}
+
+Deyim& Deyim::BağlaYazı(int sıra, std::string_view utf8)
+{
+    bağlantı_.denetle(
+        sqlite3_bind_text64(deyim_.get(), sıra, utf8.data(), utf8.size(), SQLITE_STATIC, SQLITE_UTF8));
     return *this;
 }
 

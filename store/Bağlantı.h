@@ -2,6 +2,7 @@
 // store/ only; the C headers stay in the source file.
 #pragma once
 
+#include "store/KitaplıkAnahtarı.h"
 #include "store/VeritabanıHatası.h"
 
 #include <QByteArray>
@@ -9,27 +10,15 @@
 
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <memory>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 class Deyim;
-
-/// How the key of a file is given.
-enum class AnahtarTürü
-{
-    Parola,
-    HamAnahtar
-};
-
-struct Anahtar
-{
-    AnahtarTürü tür = AnahtarTürü::Parola;
-    QByteArray değer; ///< a password as UTF-8, or 32 raw bytes
-};
 
 /// YazılabilirseYaz opens for reading what can't be written; what is then written all the same is SaltOkunur.
 enum class AçmaKipi
@@ -44,7 +33,8 @@ enum class AçmaKipi
 class Bağlantı
 {
 public:
-    /// Opens the file, gives the key, registers the Turkish collation and LIKE, and reads once.
+    /// Opens the file, gives the key, registers the Turkish collation and LIKE, and reads once. A password's
+    /// key is derived with the salt in the file; a new file gets one of its own.
     /// Throws DosyaYok, DiskDolu, SaltOkunur, ParolaYanlış (see OkunamayanDosyaTanısı), DiskHatası,
     /// YolGeçersiz, DosyaKullanımda, ÇokDosyaAçık, İzinYok, KitaplıkDeğil, DosyaYarım or DosyaBoş. Oluştur
     /// refuses an existing file with DosyaVar.
@@ -77,12 +67,16 @@ public:
     /// The same, but the running statement ends with İşlemDurduruldu when the call returns false.
     void SürdürmeAta(std::function<bool()> sürsünMü);
 
-    /// Adds tables to what this connection knows of the file whose pages begin at the given one, and forgets
-    /// the ones of the last call; the file stays as it is. So a page can be read to which no path leads.
-    /// @param sql CREATE TABLE statements with the columns that the page's rows have
-    void SayfayıTabloSay(qint64 sayfa, std::initializer_list<const char*> sql);
+    /// Adds tables to what this connection knows of the file, each beginning at a page of its own, and
+    /// forgets the ones of the last call; the file stays as it is. So pages can be read to which no path
+    /// leads.
+    /// @param tablolar pages, and CREATE TABLE statements with the columns that their rows have
+    void SayfalarıTabloSay(const std::vector<std::pair<qint64, QByteArray>>& tablolar);
 
     const QString& Yol() const { return yol_; }
+    /// TuzBoyu bytes; empty for a file that is shorter, or can't be read. Read through the open file: a
+    /// second descriptor would drop the locks on it.
+    QByteArray Tuz() const;
 
 private:
     friend class Deyim;
@@ -118,6 +112,8 @@ public:
     Deyim& Bağla(int sıra, qint64 sayı);
     Deyim& Bağla(int sıra, QStringView metin);
     Deyim& Bağla(int sıra, const QByteArray& baytlar);
+    /// A text as its UTF-8 bytes, which must stay where they are until the statement has run.
+    Deyim& BağlaYazı(int sıra, std::string_view utf8);
 
     /// Moves to the next row; false when there is none left.
     bool Adım();

@@ -71,6 +71,7 @@ YapıDurumu DBEngine::CompactDatabase(const QString& kaynak, const QString& hede
         durum = YapıDurumu::DizinBozuk;
     }
     DiskeYaz(hedef);
+    grup.KitaplıkTuzu(asıl->Tuz());
     kopya.Kalsın();
     return durum;
 }

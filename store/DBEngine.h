@@ -42,7 +42,8 @@ public:
     Workspace CreateWorkspace(const QString& ad, const QString& kullanıcı, const QString& parola);
 
     /// Copies the library into a new, freshly ordered, encrypted and verified file; the source's bytes
-    /// stay as they are but for the roll-back of what a crash left. The copy has been written to disk
+    /// stay as they are but for the roll-back of what a crash left. The workgroup file then knows the
+    /// source's salt, which the copy has, too. The copy has been written to disk
     /// when this returns; on failure none is left behind. Throws DosyaVar when the target exists, DosyaBozuk
     /// when any row of the source can't be read whole or its pages contradict each other, DiskDolu,
     /// SaltOkunur, ParolaYanlış and what opening throws.

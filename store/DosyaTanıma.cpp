@@ -1,5 +1,7 @@
 #include "store/DosyaTanıma.h"
 
+#include "store/SayfaŞifresi.h"
+
 #include <QByteArray>
 #include <QFile>
 
@@ -10,7 +12,6 @@
 namespace {
 
 constexpr qint64 BaşBoyu = 4096;
-constexpr qint64 SayfaBoyu = 16384;
 // 4,096 random bytes hold all 256 values but for a rare one, 1,024 about 251; no text and hardly any
 // structured file comes near.
 constexpr qint64 AzÖrnek = 1024;

@@ -3,15 +3,19 @@
 #include "store/KitaplıkDosyası.h"
 #include "store/KitaplıkYapısı.h"
 #include "store/MakaleKitaplığı.h"
+#include "store/MakaleKuralları.h"
 #include "store/MakaleOkuyucu.h"
 #include "store/ÇalışmaGrubu.h"
+#include "text/TürkçeHarfler.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -21,13 +25,17 @@ constexpr qsizetype EnUzunAd = 80; // characters of a title that names one
 const QString FazlaBaytMetni = QStringLiteral("Dosyanın sonunda kitaplığa ait olmayan baytlar var.");
 const QString YarımMetni = QStringLiteral(
     "%1 dosyasında yarım kalmış bir yazma var; dosya bir sonraki açılışta ondan önceki durumuna döner.");
-const QString KesmeMetni = QStringLiteral("%1 makalenin yazar adında ya da başlığında kesme işareti (') var; "
-                                          "program bunları bulup gösteremez.");
-
-bool adSütunu(MakaleSütunu sütun)
-{
-    return sütun == MakaleSütunu::YazarAdi || sütun == MakaleSütunu::MakaleBasligi;
-}
+/// In the order of MakaleKusuru; %1 is a number of articles.
+const std::array<QString, MakaleKusuruSayısı> KusurMetinleri = {
+    QStringLiteral("%1 makalenin yazar adında ya da başlığında kesme işareti (') var; program bunları bulup "
+                   "gösteremez."),
+    QStringLiteral("%1 makalenin künyesi pencerede yazılacağı gibi değil (küçük harf, kenarda boşluk)."),
+    QStringLiteral("%1 makalenin yazar adı tek sözcük; değiştirilince iki sözcük istenir."),
+    QStringLiteral("%1 makalenin yayım yeri ya da metni boş; değiştirilince istenir."),
+    QStringLiteral("%1 makalenin bir alanı pencerede yazılabilenden uzun; değiştirilince kısalır."),
+    QStringLiteral("%1 makalenin başlığı kendisinden önceki bir makaleninkiyle aynı; program yalnızca ilkini "
+                   "gösterir."),
+};
 
 DenetimBulgusu bulgu(QStringView dosya, HataNo numara, const QString& metin)
 {
@@ -75,7 +83,8 @@ private:
     QTemporaryDir geçici_; // holds encrypted files only
     std::unique_ptr<ÇalışmaGrubu> grup_;
     DenetimSonucu sonuç_;
-    qint64 kesmeİşaretli_ = 0;
+    std::array<qint64, MakaleKusuruSayısı> kusurlular_ = {}; // articles
+    QSet<QString> başlıklar_;                                // folded
 };
 
 void Denetçi::ekle(const DenetimBulgusu& yeni)
@@ -141,8 +150,10 @@ void Denetçi::VeritabanınıDenetle()
         const auto kitaplık = KitaplıkBağlantısı(yer.klasör, yer.kip, *grup_);
         satırlar(*kitaplık, yapı(*kitaplık));
     });
-    if (kesmeİşaretli_ > 0)
-        sonuç_.Notlar.append(KesmeMetni.arg(kesmeİşaretli_));
+    for (std::size_t i = 0; i < kusurlular_.size(); ++i) {
+        if (kusurlular_[i] > 0)
+            sonuç_.Notlar.append(KusurMetinleri[i].arg(kusurlular_[i]));
+    }
 }
 
 YapıDurumu Denetçi::yapı(Bağlantı& kitaplık)
@@ -186,15 +197,14 @@ std::optional<DenetimBulgusu> Denetçi::kusur(const std::optional<Makale>& makal
     const QStringView dosya = DosyaAdları::Kitaplık;
     if (!makale)
         return bulgu(dosya, VeritabanıHatası(HataNo::DosyaBozuk));
-    bool kesmeİşaretli = false;
-    for (std::size_t i = 0; i < MakaleSütunları.size(); ++i) {
-        const auto sütun = static_cast<MakaleSütunu>(i);
-        const QString& değer = (*makale).*Tanım(sütun).değer;
-        if (const QString sorun = DeğerSorunu(değer, sütun); !sorun.isEmpty())
-            return bulgu(dosya, HataNo::DeğerGeçersiz, sorun);
-        kesmeİşaretli |= adSütunu(sütun) && değer.contains(u'\'');
-    }
-    kesmeİşaretli_ += kesmeİşaretli ? 1 : 0;
+    if (const QString sorun = DeğerSorunu(*makale); !sorun.isEmpty())
+        return bulgu(dosya, HataNo::DeğerGeçersiz, sorun);
+    auto kusurlar = Kusurları(*makale);
+    const QString başlık = Katla(makale->Başlık);
+    kusurlar[static_cast<std::size_t>(MakaleKusuru::AynıBaşlık)] = başlıklar_.contains(başlık);
+    başlıklar_.insert(başlık);
+    for (std::size_t i = 0; i < kusurlular_.size(); ++i)
+        kusurlular_[i] += kusurlar[i] ? 1 : 0;
     return {};
 }
 
@@ -206,20 +216,4 @@ DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi
     denetçi.ÇalışmaGrubunuDenetle();
     denetçi.VeritabanınıDenetle();
     return denetçi.Sonuç();
-}
-
-QString DeğerSorunu(const QString& değer, MakaleSütunu sütun)
-{
-    const SütunTanımı& tanım = Tanım(sütun);
-    if (değer.contains(QChar(u'\0')))
-        return QStringLiteral("%1 alanında kullanılamayan bir karakter (NUL) var.").arg(tanım.ad);
-    if (!değer.isValidUtf16())
-        return QStringLiteral("%1 alanında yarım bir karakter (eşi olmayan \\uD800–\\uDFFF) var.")
-            .arg(tanım.ad);
-    if (değer.size() > tanım.enUzun)
-        return QStringLiteral("%1 alanı çok uzun: %2 karakter; en çok %3 olabilir.")
-            .arg(tanım.ad, QString::number(değer.size()), QString::number(tanım.enUzun));
-    if (adSütunu(sütun) && değer.trimmed().isEmpty())
-        return QStringLiteral("%1 alanı boş.").arg(tanım.ad);
-    return {};
 }

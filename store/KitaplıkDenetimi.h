@@ -38,6 +38,3 @@ DenetimSonucu KitaplığıDenetle(const QString& klasör, const DenetimBildirimi
 
 /// Of a library whose index is damaged and nothing else.
 inline constexpr QStringView DizinBozukMetni = u"Bir dizin tabloyla uyuşmuyor; makaleler duruyor.";
-
-/// Why an article can't have this value, as a Turkish sentence; empty where it can.
-QString DeğerSorunu(const QString& değer, MakaleSütunu sütun);

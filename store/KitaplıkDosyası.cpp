@@ -122,11 +122,6 @@ void kopyasınıYerineKoy(const QString& yeni, const QString& hedef, const struc
     geçici.Kalsın();
 }
 
-Anahtar parolaAnahtarı(const QString& parola)
-{
-    return {AnahtarTürü::Parola, parola.toUtf8()};
-}
-
 } // namespace
 
 GeçiciDosya::~GeçiciDosya()
@@ -153,9 +148,9 @@ void GünlüğüyleKopyala(const QString& kaynak, const QString& hedef, const st
         DosyayıKopyala(GünlükYolu(QFileInfo(kaynak).canonicalFilePath()), GünlükYolu(hedef), bildir);
 }
 
-void BoşDosyaOluştur(const QString& yol, const QString& parola)
+void BoşDosyaOluştur(const QString& yol, const Anahtar& anahtar)
 {
-    Bağlantı bağlantı(yol, parolaAnahtarı(parola), AçmaKipi::Oluştur);
+    Bağlantı bağlantı(yol, anahtar, AçmaKipi::Oluştur);
     İşlem işlem(bağlantı);
     bağlantı.Çalıştır(TabloSql("main"));
     for (const QByteArray& sql : DizinSql("main"))
@@ -164,16 +159,21 @@ void BoşDosyaOluştur(const QString& yol, const QString& parola)
     işlem.Onayla();
 }
 
+std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip)
+{
+    auto bağlantı = std::make_unique<Bağlantı>(yol, anahtar, kip);
+    if (bağlantı->Sayı("PRAGMA user_version") > KitaplıkSürümü)
+        throw VeritabanıHatası(HataNo::SürümYeni, yol);
+    if (bağlantı->Sayı("SELECT count(*) FROM sqlite_master WHERE type='table' AND name='Makaleler'") != 1)
+        throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
+    return bağlantı;
+}
+
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QString& parola, AçmaKipi kip,
                                              ÇalışmaGrubu& grup)
 {
     try {
-        auto bağlantı = std::make_unique<Bağlantı>(yol, parolaAnahtarı(parola), kip);
-        if (bağlantı->Sayı("PRAGMA user_version") > KitaplıkSürümü)
-            throw VeritabanıHatası(HataNo::SürümYeni, yol);
-        if (bağlantı->Sayı("SELECT count(*) FROM sqlite_master WHERE type='table' AND name='Makaleler'") != 1)
-            throw VeritabanıHatası(HataNo::KitaplıkDeğil, yol);
-        return bağlantı;
+        return KitaplıkBağlantısı(yol, {AnahtarTürü::Parola, parola.toUtf8()}, kip);
     } catch (const VeritabanıHatası& hata) {
         if (hata == HataNo::ParolaYanlış && grup.KitaplıkParolasıDoğru(parola))
             throw VeritabanıHatası(AnahtarDoğruysaTanı(yol, hata.Tür()), yol);
@@ -187,7 +187,9 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
     {
         const Tanıtıcı yeni(hedef, O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
     }
-    kaynak.İliştir(hedef, parolaAnahtarı(parola), "kopya");
+    // A library's salt never changes: with it and the password the key can be had even where the first page
+    // of the file is lost.
+    kaynak.İliştir(hedef, TuzluAnahtar(parola.toUtf8(), kaynak.Tuz()), "kopya");
     // A throw-away file until it is whole: it needs no journal of its own.
     kaynak.Sayı("PRAGMA kopya.journal_mode=OFF");
     kaynak.Çalıştır("PRAGMA kopya.synchronous=OFF");

@@ -37,13 +37,17 @@ void GünlüğüyleKopyala(const QString& kaynak, const QString& hedef,
                        const std::function<void(qint64)>& bildir);
 
 /// Creates an empty library. Throws DosyaVar when the file exists.
-void BoşDosyaOluştur(const QString& yol, const QString& parola);
+/// @param anahtar as TuzluAnahtar gives it
+void BoşDosyaOluştur(const QString& yol, const Anahtar& anahtar);
 
 /// Opens an existing library and makes sure that it is one. The workgroup file tells a wrong password
 /// (ParolaYanlış) from a damaged file (DosyaBozuk, DosyaYarım). Throws KitaplıkDeğil for another database,
 /// SürümYeni for a later version.
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const QString& parola, AçmaKipi kip,
                                              ÇalışmaGrubu& grup);
+
+/// The same with a key that is known to be right. Throws ParolaYanlış for a damaged first page.
+std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& yol, const Anahtar& anahtar, AçmaKipi kip);
 
 /// Whence a copy's indices come: taken over entry by entry, each put where today's collation wants it,
 /// or built anew from the rows, which deciphers all of them twice more.
@@ -53,7 +57,7 @@ enum class DizinKaynağı
     Satırlar
 };
 
-/// Copies the rows of an open library into a new file with the same password and makes its indices.
+/// Copies the rows of an open library into a new file with the same password and salt, and makes its indices.
 /// The copy is neither synced nor checked yet, and half a file
 /// on failure. Returns the number of rows.
 qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler);

@@ -1,6 +1,8 @@
 // Whether the pages of a library file fit together, and whether its indices agree with the table.
 #pragma once
 
+#include "store/VeritabanıHatası.h"
+
 #include <QtGlobal>
 
 #include <string_view>
@@ -39,6 +41,7 @@ struct SatırToplamı
 
     /// @param yazar, başlık UTF-8
     void Ekle(std::string_view yazar, std::string_view başlık, qint64 kimlik);
+    bool operator==(const SatırToplamı&) const = default;
 };
 
 /// The sum over the table; throws DosyaBozuk where it can't be read whole.
@@ -54,6 +57,19 @@ YapıDurumu GenelDurum(Bağlantı& kitaplık, YapıDurumu sayfalar, const Satır
 
 /// Both of these together. Okunamıyor: pages of the table; with those of an index it is DizinBozuk.
 YapıDurumu GenelDurum(Bağlantı& kitaplık, DenetimDerinliği derinlik);
+
+/// Runs the work up to the first page that can't be read. @return whether it came to its end
+template<class İş> bool OkunduğuKadar(İş&& iş)
+{
+    try {
+        iş();
+        return true;
+    } catch (const VeritabanıHatası& hata) {
+        if (hata != HataNo::DosyaBozuk)
+            throw;
+        return false;
+    }
+}
 
 /// A value of an article, valid until the statement's next step. Throws DosyaBozuk where it can't be read
 /// whole, isn't UTF-8 or holds NUL, as no stored text does.

@@ -51,7 +51,7 @@ QStringList nesiller(const QString& hedef)
 /// Empty where the file can't be read.
 QByteArray kitaplıkTuzu(const QString& klasör)
 try {
-    return ÇalışmaGrubu(KitaplıkYolu(klasör, DosyaAdları::Grup), AçmaKipi::Oku).KitaplıkTuzu();
+    return ÇalışmaGrubu(KitaplıkYolu(klasör, DosyaAdları::Grup), AçmaKipi::Oku).KitaplıkKimliği();
 } catch (const VeritabanıHatası&) {
     return {};
 }

@@ -1,5 +1,6 @@
 #include "store/MakaleKitaplığı.h"
 
+#include "store/KitaplıkAnahtarı.h"
 #include "store/KitaplıkDosyası.h"
 #include "store/ÇalışmaGrubu.h"
 
@@ -38,12 +39,11 @@ QString KitaplıkYolu(const QString& klasör, QStringView dosya)
     return klasör + dosya.toString();
 }
 
-void KitaplıkKur(const QString& klasör)
+void KitaplıkKurulabilmeli(const QString& klasör)
 {
     const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Kitaplık);
     const QString grup = KitaplıkYolu(klasör, DosyaAdları::Grup);
-    const QString yeniKitaplık = kitaplık + YeniEki, yeniGrup = grup + YeniEki;
-    const bool yarımdı = QFileInfo::exists(yeniKitaplık);
+    const bool yarımdı = QFileInfo::exists(kitaplık + YeniEki);
     if (dolu(kitaplık))
         throw VeritabanıHatası(HataNo::DosyaVar, kitaplık);
     if (dolu(grup) && !yarımdı)
@@ -54,19 +54,41 @@ void KitaplıkKur(const QString& klasör)
         throw VeritabanıHatası(HataNo::DosyaVar, kopya);
     if (QFileInfo(GünlükYolu(kitaplık)).size() > BoşGünlükBoyu)
         throw VeritabanıHatası(HataNo::DosyaVar, GünlükYolu(kitaplık));
+}
+
+void KitaplıkKur(const QString& klasör)
+{
+    KitaplıkKur(klasör, [](const QString& yol) {
+        QByteArray tuz = YeniTuz();
+        BoşDosyaOluştur(yol, KitaplıkAnahtarı(tuz));
+        return tuz;
+    });
+}
+
+void KitaplıkKur(const QString& klasör, const std::function<QByteArray(const QString&)>& dosyayıYap)
+{
+    KitaplıkKurulabilmeli(klasör);
+    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Kitaplık);
+    const QString grup = KitaplıkYolu(klasör, DosyaAdları::Grup);
+    const QString yeniKitaplık = kitaplık + YeniEki, yeniGrup = grup + YeniEki;
     // A journal that holds no page would still spoil the new library.
     for (const QString& yol : {yeniKitaplık, yeniGrup, GünlükYolu(kitaplık), GünlükYolu(grup),
                                GünlükYolu(yeniKitaplık), GünlükYolu(yeniGrup)})
         DosyayıSil(yol);
     GeçiciDosya yarımKitaplık(yeniKitaplık), yarımGrup(yeniGrup);
-    BoşDosyaOluştur(yeniKitaplık, KitaplıkParolası);
+    const QByteArray tuz = dosyayıYap(yeniKitaplık);
     User sahip(SahipAdı);
     sahip.Password(SahipParolası);
-    ÇalışmaGrubu::Oluştur(yeniGrup, sahip, KitaplıkParolası);
+    ÇalışmaGrubu::Oluştur(yeniGrup, sahip, KitaplıkParolası, tuz);
     DosyayıTaşı(yeniGrup, grup);
     GeçiciDosya yalnızGrup(grup);
     DosyayıTaşı(yeniKitaplık, kitaplık);
     yalnızGrup.Kalsın();
+}
+
+Anahtar KitaplıkAnahtarı(const QByteArray& tuz)
+{
+    return TuzluAnahtar(KitaplıkParolası.toUtf8(), tuz);
 }
 
 Workspace SahipÇalışmaAlanı(DBEngine& motor)

@@ -3,13 +3,16 @@
 
 #include "store/DBEngine.h"
 
+#include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
 class Bağlantı;
 class ÇalışmaGrubu;
+struct Anahtar;
 enum class AçmaKipi;
 
 /// The file set, all in the program folder. No namespace, since moc can't read the name of one.
@@ -21,10 +24,15 @@ struct DosyaAdları
     static constexpr QStringView Kopya = u"Makale.md_";
 };
 
+/// Throws DosyaVar when either file of a library or its spare copy exists in the folder.
+void KitaplıkKurulabilmeli(const QString& klasör);
 /// Creates an empty library and its workgroup file in the folder, readable for their owner only. What a
-/// killed creation left is replaced. Throws DosyaVar when either file or the spare copy exists, and then
-/// creates nothing.
+/// killed creation left is replaced. Throws as KitaplıkKurulabilmeli, and then creates nothing.
 void KitaplıkKur(const QString& klasör);
+
+/// The same with a library file that somebody else makes. The callback makes the whole file at the given path
+/// and returns its salt; what it throws comes through, and then nothing is left.
+void KitaplıkKur(const QString& klasör, const std::function<QByteArray(const QString& yol)>& dosyayıYap);
 
 /// The owner's workspace; the engine's workgroup file must be set.
 Workspace SahipÇalışmaAlanı(DBEngine& motor);
@@ -48,6 +56,8 @@ Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
 Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
 
 /// Used inside store/ only: what can be told of the library without an engine.
+/// What opens a library file with that salt.
+Anahtar KitaplıkAnahtarı(const QByteArray& tuz);
 /// The library file's connection; throws as the function that takes a password.
 std::unique_ptr<Bağlantı> KitaplıkBağlantısı(const QString& klasör, AçmaKipi kip, ÇalışmaGrubu& grup);
 /// HesapGeçersiz where the file doesn't know the owner account, ParolaYanlış where it belongs to another

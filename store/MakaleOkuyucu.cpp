@@ -17,31 +17,13 @@ constexpr auto BaşlıkDizini = "SELECT Kimlik, NULL, MakaleBasligi FROM Makalel
 constexpr auto MakaleSql = "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
                            " FROM Makaleler WHERE Kimlik=?1";
 
-// A single page, taken for one of the table and for one of an index. The index of titles has one column less.
-constexpr auto TabloSayfası = "CREATE TABLE TabloSayfasi(Kimlik INTEGER PRIMARY KEY, YazarAdi TEXT,"
-                              " MakaleBasligi TEXT, YayimYeri TEXT, YayimTarihi TEXT, MakaleMetni TEXT)";
-constexpr auto DizinSayfası =
-    "CREATE TABLE DizinSayfasi(Bir, Iki, Uc, PRIMARY KEY(Bir, Iki, Uc)) WITHOUT ROWID";
+// A single page, taken for one of the table and for one of an index.
+constexpr auto TabloAdı = "TabloSayfasi", DizinAdı = "DizinSayfasi";
 constexpr auto TabloSayfasıSql = "SELECT Kimlik, YazarAdi, MakaleBasligi FROM TabloSayfasi";
-constexpr auto DizinSayfasıSql = "SELECT ifnull(Uc, Iki), CASE WHEN Uc IS NOT NULL THEN Bir END,"
-                                 " CASE WHEN Uc IS NULL THEN Bir ELSE Iki END FROM DizinSayfasi";
 constexpr auto SayfadakiMakaleSql = "SELECT YazarAdi, MakaleBasligi, YayimYeri, YayimTarihi, MakaleMetni"
                                     " FROM TabloSayfasi WHERE Kimlik=?1";
 // The first page of a file holds the names of its tables.
 constexpr qint64 İlkSayfa = 2;
-
-/// Runs the work up to the first page that can't be read. @return whether it came to its end
-template<class İş> bool okunduğuKadar(İş&& iş)
-{
-    try {
-        iş();
-        return true;
-    } catch (const VeritabanıHatası& hata) {
-        if (hata != HataNo::DosyaBozuk)
-            throw;
-        return false;
-    }
-}
 
 /// What is known of an article while it is searched for.
 struct Bulunan
@@ -63,9 +45,9 @@ public:
     bool TabloTam = false, DizinlerTam = false, BirDizinTam = false;
 
 private:
-    template<class İş> bool oku(const char* sql, İş&& iş)
+    template<class İş> bool oku(const QByteArray& sql, İş&& iş)
     {
-        return okunduğuKadar([&] {
+        return OkunduğuKadar([&] {
             for (Deyim deyim(kitaplık_, sql); deyim.Adım();)
                 iş(ekle(deyim));
         });
@@ -112,30 +94,16 @@ void Arama::Sayfalar()
 
 void Arama::sayfayıOku(qint64 sayfa)
 {
-    kitaplık_.SayfayıTabloSay(sayfa, {TabloSayfası, DizinSayfası});
+    kitaplık_.SayfalarıTabloSay({{sayfa, TabloSayfası(TabloAdı)}, {sayfa, DizinSayfası(DizinAdı)}});
     oku(TabloSayfasıSql, [sayfa](Bulunan& bulunan) { bulunan.Sayfalar.push_back(sayfa); });
     if (!DizinlerTam)
-        oku(DizinSayfasıSql, [](Bulunan& bulunan) { bulunan.Dizinde = true; });
-}
-
-bool önce(const MakaleKünyesi& bir, const MakaleKünyesi& öteki)
-{
-    const auto karşılaştır = [](const QString& a, const QString& b) {
-        const QByteArray aUtf8 = a.toUtf8(), bUtf8 = b.toUtf8();
-        return TürkçeKarşılaştır({aUtf8.data(), std::size_t(aUtf8.size())},
-                                 {bUtf8.data(), std::size_t(bUtf8.size())});
-    };
-    if (const int yazar = karşılaştır(bir.YazarAdi, öteki.YazarAdi); yazar != 0)
-        return yazar < 0;
-    if (const int başlık = karşılaştır(bir.MakaleBasligi, öteki.MakaleBasligi); başlık != 0)
-        return başlık < 0;
-    return bir.Kimlik < öteki.Kimlik;
+        oku(DizinSayfasıSorgusu(DizinAdı), [](Bulunan& bulunan) { bulunan.Dizinde = true; });
 }
 
 std::optional<Makale> makaleyiOku(Bağlantı& kitaplık, const char* sql, qint64 kimlik)
 {
     std::optional<Makale> makale;
-    okunduğuKadar([&] {
+    OkunduğuKadar([&] {
         Deyim satır(kitaplık, sql);
         if (!satır.Bağla(1, kimlik).Adım())
             return;
@@ -148,6 +116,26 @@ std::optional<Makale> makaleyiOku(Bağlantı& kitaplık, const char* sql, qint64
 }
 
 } // namespace
+
+bool MakaleKünyesi::Önce(const MakaleKünyesi& öteki) const
+{
+    const auto karşılaştır = [](const QString& a, const QString& b) {
+        const QByteArray aUtf8 = a.toUtf8(), bUtf8 = b.toUtf8();
+        return TürkçeKarşılaştır({aUtf8.data(), std::size_t(aUtf8.size())},
+                                 {bUtf8.data(), std::size_t(bUtf8.size())});
+    };
+    if (const int yazar = karşılaştır(YazarAdi, öteki.YazarAdi); yazar != 0)
+        return yazar < 0;
+    if (const int başlık = karşılaştır(MakaleBasligi, öteki.MakaleBasligi); başlık != 0)
+        return başlık < 0;
+    return Kimlik < öteki.Kimlik;
+}
+
+bool MakaleKünyesi::AdlarıUyar(const QString& yazar, const QString& başlık) const
+{
+    const auto uyar = [](const QString& ad, const QString& değer) { return ad.isNull() || ad == değer; };
+    return uyar(YazarAdi, yazar) && uyar(MakaleBasligi, başlık);
+}
 
 MakaleOkuyucu::MakaleOkuyucu(const Database& kitaplık)
     : MakaleOkuyucu(kitaplık.Dosya(), GenelDurum(kitaplık.Dosya(), DenetimDerinliği::Sayfalar))
@@ -162,7 +150,8 @@ MakaleOkuyucu::MakaleOkuyucu(Bağlantı& kitaplık, YapıDurumu durum) : kitapl�
         return;
     }
     künyeleriAra();
-    std::sort(künyeler_.begin(), künyeler_.end(), önce);
+    std::sort(künyeler_.begin(), künyeler_.end(),
+              [](const MakaleKünyesi& bir, const MakaleKünyesi& öteki) { return bir.Önce(öteki); });
 }
 
 void MakaleOkuyucu::künyeleriAra()
@@ -188,11 +177,10 @@ std::optional<Makale> MakaleOkuyucu::Oku(const MakaleKünyesi& künye)
 {
     if (auto okunan = makaleyiOku(kitaplık_, MakaleSql, künye.Kimlik))
         return okunan;
-    const auto uyar = [](const QString& ad, const QString& değer) { return ad.isNull() || ad == değer; };
     for (const qint64 sayfa : sayfalar_[künye.Kimlik]) {
-        kitaplık_.SayfayıTabloSay(sayfa, {TabloSayfası});
+        kitaplık_.SayfalarıTabloSay({{sayfa, TabloSayfası(TabloAdı)}});
         auto okunan = makaleyiOku(kitaplık_, SayfadakiMakaleSql, künye.Kimlik);
-        if (okunan && uyar(künye.YazarAdi, okunan->Yazar) && uyar(künye.MakaleBasligi, okunan->Başlık))
+        if (okunan && künye.AdlarıUyar(okunan->Yazar, okunan->Başlık))
             return okunan;
     }
     return {};

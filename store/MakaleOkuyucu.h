@@ -18,6 +18,11 @@ struct MakaleKünyesi
 {
     qint64 Kimlik;
     QString YazarAdi, MakaleBasligi;
+
+    /// The order of author, title and key.
+    bool Önce(const MakaleKünyesi& öteki) const;
+    /// Whether an article with these names may be this one: as far as its own are known, they are the same.
+    bool AdlarıUyar(const QString& yazar, const QString& başlık) const;
 };
 
 /// Finds the articles when it is made: in a sound library through an index, else through the table as far as

@@ -162,22 +162,22 @@ SözcükBulucu::SözcükBulucu(QStringView aranan)
     }
 }
 
-bool SözcükBulucu::İçerir(std::string_view utf8) const
+std::string_view SözcükBulucu::Bul(std::string_view utf8) const
 {
     const char* const ilk = utf8.data();
     const char* const son = ilk + utf8.size();
     if (ayrım_ == 0) { // one letter, or none that can be scanned for
         for (const char* yer = ilk; yer < son; sonrakiHarf(yer, son)) {
-            if (uyar(yer, ilk, son))
-                return true;
+            if (const std::string_view bulunan = çevresi(yer, ilk, son); !bulunan.empty())
+                return bulunan;
         }
-        return false;
+        return {};
     }
     for (const char* yer = ilk; (yer = adayBul(yer, son)) != nullptr; ++yer) {
-        if (uyar(yer + 1, ilk, son))
-            return true;
+        if (const std::string_view bulunan = çevresi(yer + 1, ilk, son); !bulunan.empty())
+            return bulunan;
     }
-    return false;
+    return {};
 }
 
 /// The first place from which a last byte of the one letter and a first byte of the other stand side by
@@ -206,18 +206,18 @@ const char* SözcükBulucu::adayBul(const char* yer, const char* son) const
     return nullptr;
 }
 
-/// Whether the letters stand around the place where the letter of the index ayrım_ begins.
-bool SözcükBulucu::uyar(const char* ayrım, const char* ilk, const char* son) const
+/// The letters around the place where the letter of the index ayrım_ begins; empty where others stand there.
+std::string_view SözcükBulucu::çevresi(const char* ayrım, const char* ilk, const char* son) const
 {
-    const char* yer = ayrım;
+    const char* bitiş = ayrım;
     for (std::size_t i = ayrım_; i < harfler_.size(); ++i) {
-        if (yer >= son || sonrakiHarf(yer, son) != harfler_[i])
-            return false;
+        if (bitiş >= son || sonrakiHarf(bitiş, son) != harfler_[i])
+            return {};
     }
-    yer = ayrım;
+    const char* baş = ayrım;
     for (std::size_t i = ayrım_; i > 0; --i) {
-        if (yer <= ilk || öncekiHarf(yer, ilk) != harfler_[i - 1])
-            return false;
+        if (baş <= ilk || öncekiHarf(baş, ilk) != harfler_[i - 1])
+            return {};
     }
-    return true;
+    return {baş, static_cast<std::size_t>(bitiş - baş)};
 }

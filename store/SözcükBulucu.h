@@ -17,14 +17,16 @@ public:
     /// @param aranan not empty
     explicit SözcükBulucu(QStringView aranan);
 
-    bool İçerir(std::string_view utf8) const;
+    bool İçerir(std::string_view utf8) const { return !Bul(utf8).empty(); }
+    /// The first place where it stands, as a part of the searched text; empty when there is none.
+    std::string_view Bul(std::string_view utf8) const;
 
 private:
     /// The bytes that may stand at one place; unused ones repeat the first.
     using Baytlar = std::array<unsigned char, 4>;
 
     const char* adayBul(const char* yer, const char* son) const;
-    bool uyar(const char* ayrım, const char* ilk, const char* son) const;
+    std::string_view çevresi(const char* ayrım, const char* ilk, const char* son) const;
 
     std::vector<char32_t> harfler_; // folded
     std::size_t ayrım_ = 0; // the pair is the letters before and at this index; 0: the first letter alone

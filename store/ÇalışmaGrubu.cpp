@@ -5,12 +5,10 @@
 
 #include <QCryptographicHash>
 #include <QMessageAuthenticationCode>
-#include <QRandomGenerator>
 
 namespace {
 
 constexpr int BiçimSürümü = 1;
-constexpr int TuzBoyu = 16;
 constexpr qint64 SahipRolü = 1;
 constexpr qint64 KullanıcıRolü = 0;
 
@@ -27,14 +25,6 @@ QByteArray özet(const QByteArray& tuz, const QString& parola)
     return QMessageAuthenticationCode::hash(parola.toUtf8(), tuz, QCryptographicHash::Sha256);
 }
 
-QByteArray yeniTuz()
-{
-    QByteArray tuz(TuzBoyu, Qt::Uninitialized);
-    for (char& bayt : tuz)
-        bayt = static_cast<char>(QRandomGenerator::system()->bounded(256));
-    return tuz;
-}
-
 QByteArray baytlar(const Deyim& deyim, int sütun)
 {
     const std::string_view değer = deyim.Baytlar(sütun);
@@ -48,7 +38,7 @@ bool parolaUyar(Deyim& tuzVeÖzet, const QString& parola)
 
 void hesapYaz(Bağlantı& bağlantı, const User& hesap, qint64 rol)
 {
-    const QByteArray tuz = yeniTuz();
+    const QByteArray tuz = YeniTuz();
     Deyim(bağlantı, "INSERT INTO Hesaplar(Ad, Pid, Rol, Tuz, Ozet) VALUES(?1, ?2, ?3, ?4, ?5)")
         .Bağla(1, hesap.Name())
         .Bağla(2, hesap.PID())
@@ -58,9 +48,18 @@ void hesapYaz(Bağlantı& bağlantı, const User& hesap, qint64 rol)
         .Çalıştır();
 }
 
+/// Files of earlier programs have no such table.
+void tuzYaz(Bağlantı& bağlantı, const QByteArray& tuz)
+{
+    bağlantı.Çalıştır("CREATE TABLE IF NOT EXISTS KitaplikTuzu(Tuz BLOB NOT NULL)");
+    bağlantı.Çalıştır("DELETE FROM KitaplikTuzu");
+    Deyim(bağlantı, "INSERT INTO KitaplikTuzu(Tuz) VALUES(?1)").Bağla(1, tuz).Çalıştır();
+}
+
 } // namespace
 
-void ÇalışmaGrubu::Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası)
+void ÇalışmaGrubu::Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası,
+                           const QByteArray& kitaplıkTuzu)
 {
     Bağlantı bağlantı(yol, grupAnahtarı(), AçmaKipi::Oluştur);
     İşlem işlem(bağlantı);
@@ -69,11 +68,12 @@ void ÇalışmaGrubu::Oluştur(const QString& yol, const User& sahip, const QStr
     bağlantı.Çalıştır("CREATE TABLE Kitaplik(Tuz BLOB NOT NULL, Ozet BLOB NOT NULL)");
     bağlantı.Çalıştır("PRAGMA user_version=" + QByteArray::number(BiçimSürümü));
     hesapYaz(bağlantı, sahip, SahipRolü);
-    const QByteArray tuz = yeniTuz();
+    const QByteArray tuz = YeniTuz();
     Deyim(bağlantı, "INSERT INTO Kitaplik(Tuz, Ozet) VALUES(?1, ?2)")
         .Bağla(1, tuz)
         .Bağla(2, özet(tuz, kitaplıkParolası))
         .Çalıştır();
+    tuzYaz(bağlantı, kitaplıkTuzu);
     işlem.Onayla();
 }
 
@@ -108,10 +108,27 @@ bool ÇalışmaGrubu::KitaplıkParolasıDoğru(const QString& parola)
     return parolaUyar(deyim, parola);
 }
 
-QByteArray ÇalışmaGrubu::KitaplıkTuzu()
+QByteArray ÇalışmaGrubu::KitaplıkKimliği()
 {
     Deyim deyim(bağlantı_, "SELECT Tuz FROM Kitaplik");
     return deyim.Adım() ? baytlar(deyim, 0) : QByteArray();
+}
+
+QByteArray ÇalışmaGrubu::KitaplıkTuzu()
+{
+    if (bağlantı_.Sayı("SELECT count(*) FROM sqlite_master WHERE name='KitaplikTuzu'") == 0)
+        return {};
+    Deyim deyim(bağlantı_, "SELECT Tuz FROM KitaplikTuzu");
+    return deyim.Adım() ? baytlar(deyim, 0) : QByteArray();
+}
+
+void ÇalışmaGrubu::KitaplıkTuzu(const QByteArray& tuz)
+{
+    if (KitaplıkTuzu() == tuz)
+        return;
+    İşlem işlem(bağlantı_);
+    tuzYaz(bağlantı_, tuz);
+    işlem.Onayla();
 }
 
 std::vector<User> ÇalışmaGrubu::Hesaplar()

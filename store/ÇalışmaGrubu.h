@@ -15,7 +15,9 @@ class ÇalışmaGrubu
 public:
     /// Creates the file with its owner account. The library's password is kept as a salted hash: with
     /// it, a wrong password can be told from a damaged library. Throws DosyaVar when the file exists.
-    static void Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası);
+    /// @param kitaplıkTuzu the library file's, see KitaplıkTuzu
+    static void Oluştur(const QString& yol, const User& sahip, const QString& kitaplıkParolası,
+                        const QByteArray& kitaplıkTuzu);
 
     /// Throws KitaplıkDeğil when it is no workgroup file, DosyaBozuk, DosyaYarım or DosyaBoş when it is
     /// damaged.
@@ -26,7 +28,10 @@ public:
     bool Sahip(const QString& ad);
     bool KitaplıkParolasıDoğru(const QString& parola);
     /// Random bytes that were drawn when the library was made: they tell its copies from another library's.
+    QByteArray KitaplıkKimliği();
+    /// The salt of the library file, without which nothing in it can be read; empty where it isn't known.
     QByteArray KitaplıkTuzu();
+    void KitaplıkTuzu(const QByteArray& tuz); ///< writes it down unless it is there already
 
     std::vector<User> Hesaplar();
     void Ekle(const User& hesap); ///< throws HesapVar when the name is taken

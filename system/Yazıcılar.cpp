@@ -1,17 +1,15 @@
 #include "system/Yazıcılar.h"
 
-#include "system/EkranÖlçüsü.h"
 #include "system/OrtakApilerModülü.h"
+#include "system/SayfaDökümü.h"
 #include "system/ÇalışmaHatası.h"
 
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPageLayout>
-#include <QPainter>
 #include <QPrinter>
 #include <QScopeGuard>
-#include <QTextLayout>
 
 #include <algorithm>
 #include <cups/cups.h>
@@ -26,9 +24,7 @@ constexpr int YanıtSüresi = 3000;
 constexpr double BakışAralığı = 0.25; // s
 
 constexpr double KenarBoşluğu = 20;   // mm
-constexpr double SekmeAralığı = 720;  // twips
 constexpr int BoyamaAralığı = 50;     // ms between two paintings of the windows
-constexpr qsizetype ParçaBoyu = 4096; // UTF-16 units laid out at a time
 constexpr qsizetype EnUzunİşAdı = 80; // UTF-16 units; the service takes 255 bytes
 
 QString seçilenAd;    // in this run
@@ -78,97 +74,6 @@ QString işAdı(const QString& başlık)
     if (!ad.isEmpty() && ad.back().isHighSurrogate()) // cut between the two halves
         ad.chop(1);
     return ad;
-}
-
-/// Puts lines on pages, one below the other.
-class SayfaDökümü
-{
-public:
-    SayfaDökümü(QPrinter& yazıcı, const QFont& yazıTipi) : yazıcı_(yazıcı), yazıTipi_(yazıTipi, &yazıcı)
-    {
-        biçim_.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-        biçim_.setTabStopDistance(Piksel(SekmeAralığı)); // the layout scales the screen's measure
-        if (!ressam_.begin(&yazıcı))
-            throw ÇalışmaHatası(ÇalışmaHataNo::Yazıcı, QStringLiteral("Yazdırma başlatılamadı."));
-        alan_ = ressam_.viewport();
-        son_.start();
-    }
-
-    /// A paragraph is laid out in pieces, so that one of any length needs little memory. A piece's last
-    /// line is not whole unless it ends the paragraph: the next piece begins with it.
-    void Paragraf(QStringView paragraf)
-    {
-        do {
-            const QStringView parça = paragraf.left(ParçaBoyu);
-            paragraf = paragraf.mid(parçayıDök(parça, parça.size() == paragraf.size()));
-        } while (!paragraf.isEmpty());
-    }
-
-    void Bitir()
-    {
-        ressam_.end();
-        if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
-            throw ÇalışmaHatası(
-                ÇalışmaHataNo::Yazıcı,
-                QStringLiteral("Yazıcı işi kabul etmedi: %1").arg(QString::fromUtf8(cupsLastErrorString())));
-    }
-
-private:
-    /// @return how much of the piece was printed
-    qsizetype parçayıDök(QStringView parça, bool paragrafSonu)
-    {
-        QTextLayout düzen(parça.toString(), yazıTipi_, &yazıcı_);
-        düzen.setTextOption(biçim_);
-        düzen.beginLayout();
-        for (QTextLine satır = düzen.createLine(); satır.isValid(); satır = düzen.createLine())
-            satır.setLineWidth(alan_.width());
-        düzen.endLayout();
-        const int satırlar = düzen.lineCount() - (paragrafSonu || düzen.lineCount() < 2 ? 0 : 1);
-        for (int i = 0; i < satırlar; ++i)
-            satırıDök(düzen.lineAt(i));
-        return satırlar < düzen.lineCount() ? düzen.lineAt(satırlar).textStart() : parça.size();
-    }
-
-    void satırıDök(const QTextLine& satır)
-    {
-        const double boy = satır.height() + satır.leading();
-        if (y_ > 0 && y_ + satır.height() > alan_.height()) {
-            if (!yazıcı_.newPage())
-                throw ÇalışmaHatası(ÇalışmaHataNo::Yazıcı, QStringLiteral("Yeni sayfaya geçilemedi."));
-            y_ = 0;
-        }
-        satır.draw(&ressam_, QPointF(0, y_));
-        y_ += boy;
-        if (son_.hasExpired(BoyamaAralığı)) {
-            PencereleriBoya();
-            son_.start();
-        }
-    }
-
-    QPrinter& yazıcı_;
-    QPainter ressam_;
-    QFont yazıTipi_;
-    QTextOption biçim_;
-    QRectF alan_;
-    double y_ = 0;
-    QElapsedTimer son_;
-};
-
-void paragraflarıDök(SayfaDökümü& döküm, QStringView metin)
-{
-    qsizetype baş = 0;
-    for (qsizetype i = 0; i <= metin.size(); ++i) {
-        const bool son = i == metin.size();
-        const QChar harf = son ? QChar(u'\n') : metin[i];
-        const bool satırSonu = (harf >= u'\n' && harf <= u'\r') || harf == QChar::ParagraphSeparator;
-        if (!satırSonu)
-            continue;
-        if (!son || i > baş) // a break at the very end begins no further line
-            döküm.Paragraf(metin.sliced(baş, i - baş));
-        if (harf == u'\r' && i + 1 < metin.size() && metin[i + 1] == u'\n')
-            ++i;
-        baş = i + 1;
-    }
 }
 
 } // namespace
@@ -226,7 +131,18 @@ void MetinYazdır(const QString& metin, const QString& yazıTipi, int nokta, con
     yazıcı.setPageMargins(QMarginsF(kenar, kenar, kenar, kenar), QPageLayout::Millimeter);
     QFont yazı(yazıTipi);
     yazı.setPointSize(nokta);
-    SayfaDökümü döküm(yazıcı, yazı);
-    paragraflarıDök(döküm, metin);
+    QElapsedTimer son;
+    son.start();
+    SayfaDökümü döküm(yazıcı, yazı, [&son] {
+        if (son.hasExpired(BoyamaAralığı)) {
+            PencereleriBoya();
+            son.start();
+        }
+    });
+    döküm.Metin(metin);
     döküm.Bitir();
+    if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
+        throw ÇalışmaHatası(
+            ÇalışmaHataNo::Yazıcı,
+            QStringLiteral("Yazıcı işi kabul etmedi: %1").arg(QString::fromUtf8(cupsLastErrorString())));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringMatcher>
 
 /// Finds the places of one text in another, one after the other. Places may overlap; an empty text is found
@@ -19,3 +20,8 @@ private:
     QString katlı_;
     QStringMatcher bulucu_;
 };
+
+/// The word, and it with its last consonant as it changes before an ending that begins with a vowel, both
+/// ways: kitap and kitab(ı), ağaç and ağac(ı), kanat and kanad(ı), sokak and sokağ(ı), renk and reng(i),
+/// diyalog and diyaloğ(u). Words of one letter have one form.
+QStringList KökBiçimleri(const QString& sözcük);

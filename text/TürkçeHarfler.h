@@ -18,6 +18,12 @@ bool İleBaşlar(QStringView metin, QStringView baş) noexcept;
 /// The upper-case form of one typed unit; what has no single upper-case form (ß) stays.
 char16_t BüyükHarf(char16_t harf) noexcept;
 
+/// One typed unit as names take it: an apostrophe becomes the acute accent, which breaks no query.
+constexpr char16_t YazılanHarf(char16_t harf) noexcept
+{
+    return harf == u'\'' ? u'´' : harf;
+}
+
 /// The lower-case form of one unit; what has no single lower-case form stays.
 char16_t KüçükHarf(char16_t harf) noexcept;
 

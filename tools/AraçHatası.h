@@ -9,3 +9,10 @@ class AraçHatası : public Hata
 public:
     using Hata::Hata;
 };
+
+/// The command was typed wrongly: the exit status is another.
+class YanlışKullanım : public AraçHatası
+{
+public:
+    using AraçHatası::AraçHatası;
+};

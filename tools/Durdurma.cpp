@@ -45,9 +45,14 @@ DurdurmaBekçisi::~DurdurmaBekçisi()
         close(uç);
 }
 
+bool DurdurmaBekçisi::Durduruldu() const
+{
+    return durdurma != 0;
+}
+
 void DurdurmaBekçisi::Bak() const
 {
-    if (durdurma)
+    if (Durduruldu())
         throw AraçHatası(QStringLiteral("İşlem durduruldu; kitaplık değişmedi."));
 }
 

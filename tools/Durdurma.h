@@ -14,7 +14,8 @@ public:
     DurdurmaBekçisi(const DurdurmaBekçisi&) = delete;
     DurdurmaBekçisi& operator=(const DurdurmaBekçisi&) = delete;
 
-    /// Throws AraçHatası once the work was interrupted.
+    bool Durduruldu() const; ///< whether the work was interrupted
+    /// Throws AraçHatası once it was.
     void Bak() const;
     /// Waits until something can be read from the descriptor, or its end; throws as Bak.
     void OkunurOlsun(int tanıtıcı) const;

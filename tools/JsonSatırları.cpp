@@ -1,6 +1,6 @@
 #include "tools/JsonSatırları.h"
 
-#include "store/KitaplıkDenetimi.h"
+#include "store/MakaleKuralları.h"
 #include "tools/AraçHatası.h"
 #include "tools/Durdurma.h"
 
@@ -16,13 +16,6 @@ namespace {
 
 constexpr QByteArrayView BaytSırasıİmi = "\xef\xbb\xbf";
 constexpr qsizetype EnUzunAlıntı = 40; // characters of a wrong name that a message repeats
-
-/// The text as a JSON string with its quotes.
-QByteArray jsonDizesi(const QString& metin)
-{
-    const QByteArray dizi = QJsonDocument(QJsonArray{metin}).toJson(QJsonDocument::Compact);
-    return dizi.sliced(1, dizi.size() - 2);
-}
 
 [[noreturn]] void jsonHatası(QByteArrayView satır, qsizetype bayt)
 {
@@ -87,7 +80,7 @@ Makale makaleÇöz(const QByteArray& satır)
         if (std::none_of(MakaleSütunları.begin(), MakaleSütunları.end(),
                          [&ad](const SütunTanımı& tanım) { return tanım.ad == ad; })) {
             throw AraçHatası(QStringLiteral("%1 diye bir alan yok.")
-                                 .arg(QString::fromUtf8(jsonDizesi(ad.left(EnUzunAlıntı)))));
+                                 .arg(QString::fromUtf8(JsonDizesi(ad.left(EnUzunAlıntı)))));
         }
     }
     Makale makale;
@@ -108,24 +101,30 @@ Makale makaleÇöz(const QByteArray& satır)
 
 } // namespace
 
+QByteArray JsonDizesi(const QString& metin)
+{
+    const QByteArray dizi = QJsonDocument(QJsonArray{metin}).toJson(QJsonDocument::Compact);
+    return dizi.sliced(1, dizi.size() - 2);
+}
+
 QByteArray MakaleSatırı(const Makale& makale)
 {
     QByteArray satır;
     for (const SütunTanımı& sütun : MakaleSütunları) {
         satır += (satır.isEmpty() ? "{\"" : ", \"") + sütun.ad.toUtf8() + "\": ";
-        satır += jsonDizesi(makale.*sütun.değer);
+        satır += JsonDizesi(makale.*sütun.değer);
     }
     return satır + "}\n";
 }
 
-std::optional<Makale> JsonSatırları::Sonraki()
+std::optional<GelenMakale> JsonKaynağı::Sonraki()
 {
     while (satırlar_.Oku(satır_)) {
         bekçi_.Bak();
         if (satır_.trimmed().isEmpty())
             continue;
         try {
-            return makaleÇöz(satır_);
+            return GelenMakale{makaleÇöz(satır_), satırlar_.Nerede(satırlar_.SatırNo())};
         } catch (const AraçHatası& hata) {
             bekçi_.Bak(); // then it is the interruption that ended it
             satırlar_.HataVer(satırlar_.SatırNo(), hata.Açıklama());

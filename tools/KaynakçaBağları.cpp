@@ -2,8 +2,8 @@
 
 #include "document/MetinDosyası.h"
 #include "text/TürkçeHarfler.h"
-#include "tools/KaynakçaDosyası.h"
 #include "tools/KaynakçaKayıtları.h"
+#include "tools/KayıtDosyası.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "tools/KaynakçaKayıtları.h"
 
-#include "tools/KaynakçaDosyası.h"
+#include "tools/KayıtDosyası.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -81,14 +81,14 @@ QByteArray KaynakçaKaydı::Değer(QByteArrayView ad) const
     return alan ? alan->Değer : QByteArray();
 }
 
-std::unique_ptr<KaynakçaKayıtları> KaynakçaKayıtları::Aç(KaynakçaDosyası& dosya, KaynakçaTürü tür)
+std::unique_ptr<KaynakçaKayıtları> KaynakçaKayıtları::Aç(KayıtDosyası& dosya, KaynakçaTürü tür)
 {
     if (tür == KaynakçaTürü::Ris)
         return std::make_unique<RisKayıtları>(dosya);
     return std::make_unique<BibKayıtları>(dosya);
 }
 
-BibKayıtları::BibKayıtları(KaynakçaDosyası& dosya) : dosya_(dosya)
+BibKayıtları::BibKayıtları(KayıtDosyası& dosya) : dosya_(dosya)
 {
     for (int ay = 1; ay <= 12; ++ay) {
         const QByteArray ad = QLocale::c().monthName(ay).toLatin1();

@@ -8,8 +8,13 @@
 #include <optional>
 #include <vector>
 
-class KaynakçaDosyası;
-enum class KaynakçaTürü;
+class KayıtDosyası;
+
+enum class KaynakçaTürü
+{
+    BibTeX,
+    Ris
+};
 
 struct KaynakçaAlanı
 {
@@ -42,18 +47,18 @@ public:
 
     /// Nothing at the end. Throws AraçHatası with the line for what can't be told apart: BibTeX that breaks
     /// its grammar or names an abbreviation that isn't defined; RIS with an unknown code, or a record without
-    /// beginning or end. Throws also what KaynakçaDosyası::Oku throws.
+    /// beginning or end. Throws also what KayıtDosyası::Oku throws.
     virtual std::optional<KaynakçaKaydı> Sonraki() = 0;
 
     /// @param dosya must outlive the result
-    static std::unique_ptr<KaynakçaKayıtları> Aç(KaynakçaDosyası& dosya, KaynakçaTürü tür);
+    static std::unique_ptr<KaynakçaKayıtları> Aç(KayıtDosyası& dosya, KaynakçaTürü tür);
 };
 
 /// Entries of BibTeX. Text between them is passed over, and `@comment` and `@preamble`.
 class BibKayıtları : public KaynakçaKayıtları
 {
 public:
-    explicit BibKayıtları(KaynakçaDosyası& dosya);
+    explicit BibKayıtları(KayıtDosyası& dosya);
     std::optional<KaynakçaKaydı> Sonraki() override;
 
 private:
@@ -72,7 +77,7 @@ private:
     void alanlarıOku(char son);
     [[noreturn]] void hata(const QString& cümle) const;
 
-    KaynakçaDosyası& dosya_;
+    KayıtDosyası& dosya_;
     QByteArray tampon_; // whole lines, from that in which the record begins
     qsizetype yer_ = 0; // in it
     qint64 satırNo_ = 0;
@@ -85,11 +90,11 @@ private:
 class RisKayıtları : public KaynakçaKayıtları
 {
 public:
-    explicit RisKayıtları(KaynakçaDosyası& dosya) : dosya_(dosya) {}
+    explicit RisKayıtları(KayıtDosyası& dosya) : dosya_(dosya) {}
     std::optional<KaynakçaKaydı> Sonraki() override;
 
 private:
     void koduAl(KaynakçaKaydı& kayıt, const QByteArray& kod, const QByteArray& değer) const;
 
-    KaynakçaDosyası& dosya_;
+    KayıtDosyası& dosya_;
 };

@@ -124,7 +124,7 @@ std::optional<KaynakçaTürü> KaynakçaTürüBul(const QString& yol)
 }
 
 KaynakçaOkuyucu::KaynakçaOkuyucu(const QString& yol, KaynakçaTürü tür, const DurdurmaBekçisi& bekçi)
-    : tür_(tür), klasör_(QFileInfo(yol).absolutePath()), bekçi_(bekçi), dosya_(yol, bekçi),
+    : tür_(tür), klasör_(QFileInfo(yol).absolutePath()), bekçi_(bekçi), dosya_(yol, bekçi, DamgaBaşı),
       kayıtlar_(KaynakçaKayıtları::Aç(dosya_, tür))
 {
 }
@@ -187,7 +187,7 @@ void KaynakçaOkuyucu::üstleriOku()
 {
     QSet<QByteArray> anahtarlar;
     const auto hepsi = [this](const auto& iş) {
-        KaynakçaDosyası dosya(dosya_.Ad(), bekçi_);
+        KayıtDosyası dosya(dosya_.Ad(), bekçi_);
         BibKayıtları kayıtlar(dosya);
         while (std::optional<KaynakçaKaydı> kayıt = kayıtlar.Sonraki())
             iş(*kayıt);

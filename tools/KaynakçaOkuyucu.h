@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tools/BibÇözücü.h"
-#include "tools/KaynakçaDosyası.h"
 #include "tools/KaynakçaKayıtları.h"
+#include "tools/KayıtDosyası.h"
 #include "tools/MakaleKaynağı.h"
 
 #include <array>
@@ -19,7 +19,7 @@ std::optional<KaynakçaTürü> KaynakçaTürüBul(const QString& yol);
 class KaynakçaOkuyucu : public MakaleKaynağı
 {
 public:
-    /// Throws what KaynakçaDosyası throws.
+    /// Throws what KayıtDosyası throws.
     /// @param bekçi asked between lines; must outlive this
     KaynakçaOkuyucu(const QString& yol, KaynakçaTürü tür, const DurdurmaBekçisi& bekçi);
 
@@ -50,7 +50,7 @@ private:
     KaynakçaTürü tür_;
     QString klasör_; // of the file, for its links
     const DurdurmaBekçisi& bekçi_;
-    KaynakçaDosyası dosya_;
+    KayıtDosyası dosya_;
     std::unique_ptr<KaynakçaKayıtları> kayıtlar_;
     BibÇözücü çözücü_;
     std::optional<QHash<QByteArray, KaynakçaKaydı>> üstler_; // those that crossref names, once there is one

@@ -3,7 +3,14 @@
 
 #include <QStringList>
 
-/// Runs the command that the arguments name and reports on the standard output and error. Returns the
-/// process's exit status: 0 good, 1 failed, 2 wrong usage.
+/// A process's exit status.
+enum ÇıkışDurumu : int
+{
+    Başarılı = 0,
+    Başarısız = 1, ///< or something was refused, or is not as it should be
+    Yanlış = 2     ///< was typed wrongly
+};
+
+/// Runs the command that the arguments name and reports on the standard output and error.
 /// @param değişkenler the arguments without the program's name
-int KomutÇalıştır(const QStringList& değişkenler);
+ÇıkışDurumu KomutÇalıştır(const QStringList& değişkenler);

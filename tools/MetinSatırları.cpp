@@ -76,7 +76,7 @@ bool MetinSatırları::Oku(QByteArray& satır)
 
 void MetinSatırları::HataVer(qint64 satırNo, const QString& cümle) const
 {
-    throw AraçHatası(QStringLiteral("%1, %2. satır: %3").arg(ad_, QString::number(satırNo), cümle));
+    throw AraçHatası(Nerede(satırNo) + QStringLiteral(": ") + cümle);
 }
 
 void MetinSatırları::BaşaDön()

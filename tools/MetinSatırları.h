@@ -26,6 +26,11 @@ public:
 
     const QString& Ad() const { return ad_; }   ///< for messages
     qint64 SatırNo() const { return satırNo_; } ///< of the line read last; counts from 1
+    /// A line as messages name it: "dosya, 3. satır".
+    QString Nerede(qint64 satırNo) const
+    {
+        return QStringLiteral("%1, %2. satır").arg(ad_, QString::number(satırNo));
+    }
     /// A sentence about a line, as an error that names file and line.
     [[noreturn]] void HataVer(qint64 satırNo, const QString& cümle) const;
 

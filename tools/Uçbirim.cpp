@@ -3,11 +3,13 @@
 #include "store/VeritabanıHatası.h"
 #include "tools/AraçHatası.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
 namespace {
 
+constexpr qint64 ÇubukBoyu = 30;        // columns
 constexpr qint64 GöstermeAralığı = 200; // ms
 constexpr auto SatırıSil = "\r\x1b[K";
 
@@ -19,7 +21,7 @@ void yaz(std::FILE* akış, const QByteArray& baytlar)
 
 } // namespace
 
-Çıktı::Çıktı()
+Çıktı::Çıktı() : uçbirim_(isatty(STDOUT_FILENO) == 1)
 {
     if (!dosya_.open(STDOUT_FILENO, QIODevice::WriteOnly))
         hataVer();
@@ -73,7 +75,9 @@ void İlerleme::Göster(qint64 yapılan, qint64 toplam)
     yazıldı_ = true;
     QString satır = iş_ + u'…';
     if (toplam > 0) {
-        satır += QStringLiteral(" %%1").arg(yapılan * 100 / toplam);
+        const qint64 dolu = std::clamp<qint64>(yapılan * ÇubukBoyu / toplam, 0, ÇubukBoyu);
+        satır += QStringLiteral(" [") + QString(dolu, u'#') + QString(ÇubukBoyu - dolu, u'.') +
+                 QStringLiteral("] %%1").arg(yapılan * 100 / toplam);
     } else if (yapılan > 0) {
         satır += QStringLiteral(" %1").arg(yapılan);
     }

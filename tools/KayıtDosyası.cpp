@@ -1,22 +1,21 @@
-#include "tools/KaynakçaDosyası.h"
+#include "tools/KayıtDosyası.h"
 
 #include "document/KodSayfası.h"
 #include "document/Utf8.h"
 #include "tools/AraçHatası.h"
 #include "tools/Durdurma.h"
-#include "tools/KaynakçaBiçimi.h"
 
-KaynakçaDosyası::KaynakçaDosyası(const QString& yol, const DurdurmaBekçisi& bekçi)
+KayıtDosyası::KayıtDosyası(const QString& yol, const DurdurmaBekçisi& bekçi, QByteArrayView utf8İmi)
     : bekçi_(bekçi), satırlar_(yol, bekçi)
 {
     if (satırlar_.BirKezOkunur())
-        throw AraçHatası(QStringLiteral("%1: Kaynakça olağan bir dosyadan okunur.").arg(Ad()));
-    yazısınıTanı();
+        throw AraçHatası(QStringLiteral("%1: Bu kayıtlar olağan bir dosyadan okunur.").arg(Ad()));
+    yazısınıTanı(utf8İmi);
     satırlar_.BaşaDön();
     satırlar_.SonuAta(son_);
 }
 
-void KaynakçaDosyası::yazısınıTanı()
+void KayıtDosyası::yazısınıTanı(QByteArrayView utf8İmi)
 {
     Utf8Sayacı sayaç;
     QByteArray satır;
@@ -27,14 +26,14 @@ void KaynakçaDosyası::yazısınıTanı()
             HataVer(SatırNo(), QStringLiteral("Burada UTF-16 ya da metin olmayan baytlar var; dosyayı UTF-8 "
                                               "olarak kaydedip yeniden deneyin."));
         sayaç.Say(satır, '\n');
-        kesin = kesin || satır.contains(DamgaBaşı);
+        kesin = kesin || (!utf8İmi.isEmpty() && satır.contains(utf8İmi));
         if (SatırNo() == 1 && !satır.endsWith('\n') && satır.contains('\r'))
             son_ = '\r';
     }
     utf8_ = kesin || satırlar_.İmli() || sayaç.Utf8Mi();
 }
 
-bool KaynakçaDosyası::Oku(QByteArray& satır)
+bool KayıtDosyası::Oku(QByteArray& satır)
 {
     if (!satırlar_.Oku(satır))
         return false;
@@ -46,7 +45,7 @@ bool KaynakçaDosyası::Oku(QByteArray& satır)
     return true;
 }
 
-void KaynakçaDosyası::HataVer(qint64 satırNo, const QString& cümle) const
+void KayıtDosyası::HataVer(qint64 satırNo, const QString& cümle) const
 {
     satırlar_.HataVer(satırNo, cümle);
 }
