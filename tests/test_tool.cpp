@@ -6,8 +6,10 @@
 
 #include <QFile>
 
+#include <array>
 #include <csignal>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -116,6 +118,12 @@ private slots:
         Olmalı(komut(u"aktar"_s, u"/yok.jsonl"_s), 1, "3024: ");
         Olmalı(komut(u"oluştur"_s), 1, "3204: Dosya zaten var.");
         Olmalı(komut(u"dök"_s, {}, {}, u"/dev/full"_s), 1, "3026: ");
+        const auto kapalıBoru = [] {
+            std::array<int, 2> boru{};
+            if (pipe(boru.data()) != 0 || dup2(boru[1], STDOUT_FILENO) < 0 || close(boru[0]) != 0)
+                _exit(9);
+        };
+        Olmalı(AraçÇalıştır({u"dök"_s, klasör_}, {.Önce = kapalıBoru}), 1, "Standart çıktıya yazılamıyor.");
         const auto başkası = DosyaBağlantısı(klasör_);
         başkası->Çalıştır("BEGIN EXCLUSIVE");
         Olmalı(komut(u"dök"_s), 1, "3045: ");

@@ -96,7 +96,7 @@ bool yardımİsteği(const QString& değişken)
     if (kalan.Sıralı().size() < komut->enAz || kalan.Sıralı().size() > komut->enÇok ||
         kalan.Sıralı().contains(QString())) {
         throw YanlışKullanım(
-            QStringLiteral("Komut şöyle yazılır: %1 %2.").arg(komut->ad, komut->değişkenler));
+            QStringLiteral("Komut şöyle yazılır: “%1 %2”.").arg(komut->ad, komut->değişkenler));
     }
     return komut->çalıştır(kalan);
 }

@@ -3,6 +3,7 @@
 #include "system/ÇekirdekDökümü.h"
 #include "tools/Komutlar.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -23,6 +24,7 @@ void standartAkışlarıDoldur()
 int main(int sayı, char** değişkenler)
 {
     ÇekirdekDökümünüKapat();
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is told as any other output that can't be written
     standartAkışlarıDoldur();
     QStringList metinler;
     for (int i = 1; i < sayı; ++i)
