@@ -57,16 +57,16 @@ find_build_place() {
     ln -sfn "$PWD" "$place" || die "Yazılamıyor: $place"
 }
 
-# Configures once and builds a preset; quiet unless something fails. The tools read the folder that they are
+# build PRESET [TARGET]: configures once and builds a preset; quiet unless something fails. The tools read the folder that they are
 # called in, too.
 build() {
-    local preset=$1 log place
+    local preset=$1 target=${2-all} log place
     find_build_place
     # A build folder that was moved or copied with its checkout still names the old place.
     grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$place" "build/$preset/CMakeCache.txt" || rm -rf "build/$preset"
     [ -f "build/$preset/build.ninja" ] || log=$(cd / && cmake -S "$place" --preset "$preset" 2>&1) \
         || { echo "$log"; die "Yapılandırma başarısız: $preset"; }
-    log=$(cd / && cmake --build "$place/build/$preset" 2>&1) || { echo "$log" | tail -n 60; die "Derleme başarısız: $preset"; }
+    log=$(cd / && cmake --build "$place/build/$preset" --target "$target" 2>&1) || { echo "$log" | tail -n 60; die "Derleme başarısız: $preset"; }
 }
 
 # install_built PRESET FOLDER: puts what was built into a folder of the checkout.
