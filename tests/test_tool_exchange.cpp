@@ -16,6 +16,12 @@
 
 using namespace Qt::StringLiterals;
 
+#ifdef __SANITIZE_ADDRESS__
+static constexpr bool Sanitized = true; // kills, which find nothing more then, take their time
+#else
+static constexpr bool Sanitized = false;
+#endif
+
 class TestToolExchange : public QObject
 {
     Q_OBJECT
@@ -397,7 +403,7 @@ private slots:
         };
         Olmalı(AraçÇalıştır(kalan, {.Önce = sınırla}), 1, "3026: ");
         bak(true);
-        for (const int süre : kalan[0] == u"ver" ? QList<int>{} : QList<int>{5, 40, 100}) {
+        for (const int süre : kalan[0] == u"ver" || Sanitized ? QList<int>{} : QList<int>{5, 40, 100}) {
             const auto öldür = [süre](int pid) {
                 QTest::qWait(süre);
                 kill(pid, SIGKILL);
