@@ -404,6 +404,14 @@ int Bağlantı::ilerleme(void* bağlantı)
     return sürsün ? 0 : 1;
 }
 
+void Bağlantı::ÖnbelleğiBoşalt()
+{
+    constexpr auto boşalt = "PRAGMA shrink_memory";
+    Sayı(boşalt);
+    dene("SELECT count(*) FROM sqlite_master"); // may fail of what was read before, and is read in vain
+    Sayı(boşalt);
+}
+
 void Bağlantı::SayfalarıTabloSay(const std::vector<std::pair<qint64, QByteArray>>& tablolar)
 {
     // SQLite's own means for tools that look at a file's parts: while it is on, a table that is created
@@ -460,8 +468,9 @@ Deyim& Deyim::Bağla(int sıra, const QByteArray& baytlar)
 
 Deyim& Deyim::BağlaYazı(int sıra, std::string_view utf8)
 {
+    const char* const baytlar = utf8.data() ? utf8.data() : ""; // a null pointer would be NULL
     bağlantı_.denetle(
-        sqlite3_bind_text64(deyim_.get(), sıra, utf8.data(), utf8.size(), SQLITE_STATIC, SQLITE_UTF8));
+        sqlite3_bind_text64(deyim_.get(), sıra, baytlar, utf8.size(), SQLITE_STATIC, SQLITE_UTF8));
     return *this;
 }
 

@@ -67,6 +67,11 @@ public:
     /// The same, but the running statement ends with İşlemDurduruldu when the call returns false.
     void SürdürmeAta(std::function<bool()> sürsünMü);
 
+    /// Forgets all pages. To be called when a damaged row was read, before a row that may be sound: SQLCipher
+    /// tells of a page that doesn't decipher at the next one that is read, which then stands in memory as
+    /// zeros though nothing is wrong with it.
+    void ÖnbelleğiBoşalt();
+
     /// Adds tables to what this connection knows of the file, each beginning at a page of its own, and
     /// forgets the ones of the last call; the file stays as it is. So pages can be read to which no path
     /// leads.

@@ -2,6 +2,7 @@
 
 #include "store/DosyaTanıma.h"
 #include "store/KitaplıkDosyası.h"
+#include "store/KitaplıkKlasörü.h"
 #include "store/KlasörKilidi.h"
 #include "store/KurtarmaKaynağı.h"
 #include "store/MakaleKitaplığı.h"
@@ -83,30 +84,18 @@ void YeniKitaplık::Bitir(const KurtarmaKaynağı::Sürdürme& sürsünMü)
 }
 
 /// The folder for the new library, locked; deleted with this object where it was made for nothing.
-class YeniKlasör
+class KurtarmaKlasörü
 {
 public:
-    explicit YeniKlasör(const QString& klasör) : klasör_(klasör), yeni_(!QFileInfo::exists(klasör))
+    explicit KurtarmaKlasörü(const QString& klasör) : klasör_(klasör), kilit_(klasör)
     {
-        errno = 0;
-        if (yeni_ && !QDir().mkpath(klasör))
-            SistemHatasıVer(errno, Erişim::Yazma, klasör);
-        kilit_.emplace(klasör);
         for (const QString& kalan : QDir(klasör).entryList({GeçiciAd + u'*'}, QDir::Dirs | QDir::Hidden))
             QDir(klasör + kalan).removeRecursively();
     }
-    ~YeniKlasör()
-    {
-        if (yeni_)
-            QDir().rmdir(klasör_); // which leaves one that holds something
-    }
-    YeniKlasör(const YeniKlasör&) = delete;
-    YeniKlasör& operator=(const YeniKlasör&) = delete;
 
 private:
-    QString klasör_;
-    bool yeni_;
-    std::optional<KlasörKilidi> kilit_;
+    YeniKlasör klasör_;
+    KlasörKilidi kilit_;
 };
 
 /// Made for one rescue; holds the old folder's lock.
@@ -114,7 +103,7 @@ class Kurtarıcı
 {
 public:
     Kurtarıcı(const QString& klasör, const KurtarmaBildirimi& bildir)
-        : kilit_(klasör), klasör_(klasör), bildir_(bildir)
+        : kilit_(klasör), klasör_(klasör), tuzlar_(tuzlar()), bildir_(bildir)
     {
     }
 
@@ -139,6 +128,8 @@ private:
 
     KlasörKilidi kilit_;
     QString klasör_;
+    std::vector<QByteArray>
+        tuzlar_; // looked for before a file is open: closing it again would drop SQLite's locks
     const KurtarmaBildirimi& bildir_;
     std::optional<YeniKitaplık> yeni_;
     std::unordered_set<qint64> gelenler_;
@@ -156,7 +147,9 @@ QString Kurtarıcı::yol(QStringView dosya) const
 std::vector<QByteArray> Kurtarıcı::tuzlar() const
 {
     const QString kitaplık = yol(DosyaAdları::Kitaplık);
-    std::vector<QByteArray> tuzlar = GünlüktekiTuzlar(GünlükYolu(kitaplık));
+    std::vector<QByteArray> tuzlar;
+    if (!kitaplık.isEmpty())
+        tuzlar = GünlüktekiTuzlar(GünlükYolu(kitaplık));
     for (const QString& dosya : {kitaplık, yol(DosyaAdları::Kopya)}) {
         QFile baş(dosya);
         if (!dosya.isEmpty() && baş.open(QIODevice::ReadOnly))
@@ -179,7 +172,7 @@ Kurtarıcı::Kaynak Kurtarıcı::aç(QStringView dosya, const QString& geçici, 
         return {};
     }
     try {
-        return KurtarmaKaynağı::Aç(gerçek, KitaplıkYolu(geçici, dosya), tuzlar(),
+        return KurtarmaKaynağı::Aç(gerçek, KitaplıkYolu(geçici, dosya), tuzlar_,
                                    [this] { return sürsünMü(); });
     } catch (const VeritabanıHatası& hata) {
         if (!OkunacakBirŞeyYok(hata.Tür()))
@@ -281,13 +274,14 @@ KurtarmaSonucu KitaplığıKurtar(const QString& klasör, const QString& yeniKla
     if (QFileInfo(yeniKlasör).exists() && QFileInfo(yeniKlasör) == QFileInfo(klasör))
         throw VeritabanıHatası(HataNo::DosyaVar, yeniKlasör);
     KitaplıkKurulabilmeli(yeniKlasör);
-    std::optional<YeniKlasör> yeni;
+    std::optional<KurtarmaKlasörü> yeni;
     if (kip == KurtarmaKipi::Kur)
         yeni.emplace(yeniKlasör);
+    errno = 0;
     const QTemporaryDir geçici((yeni ? yeniKlasör : QDir::tempPath() + u'/') + GeçiciAd +
                                QStringLiteral("XXXXXX"));
     if (!geçici.isValid())
-        throw VeritabanıHatası(HataNo::DiskHatası, geçici.path());
+        SistemHatasıVer(errno, Erişim::Yazma, geçici.path());
     const QString kopyalar = geçici.path() + u'/';
     if (yeni)
         KitaplıkKur(yeniKlasör, [&](const QString& yol) { return kurtarıcı.Kurtar(kopyalar, yol); });

@@ -123,6 +123,13 @@ try {
     return {};
 }
 
+/// Whether it can be a journal: what is none takes nothing back.
+bool günlükMü(const QString& yol)
+{
+    QFile dosya(yol);
+    return dosya.open(QIODevice::ReadOnly) && dosya.read(Günlükİmzası.size()) == Günlükİmzası;
+}
+
 /// Copies the file with its journal and has SQLite roll back what that holds.
 void geriAl(const QString& yol, const QString& kopya)
 {
@@ -165,7 +172,7 @@ std::unique_ptr<KurtarmaKaynağı> KurtarmaKaynağı::Aç(const QString& yol, co
     };
     if (!geri)
         return olduğuGibi();
-    geri->geriAlındı_ = true;
+    geri->geriAlındı_ = günlükMü(GünlükYolu(yol));
     Kaynak haliyle = ümitVarsa(olduğuGibi);
     return haliyle && haliyle->geriAlınandanİyi(*geri) ? std::move(haliyle) : std::move(geri);
 }
@@ -221,7 +228,9 @@ KurtarmaKaynağı::KurtarmaKaynağı(const QString& yol, const QString& kopya, K
         açılan = kopya;
     }
     bağlantı_ = KitaplıkBağlantısı(açılan, Anahtarı(), AçmaKipi::Oku);
-    denetle(!okunur || boy<beklenen, boy> beklenen, sürsünMü);
+    const bool eksik = !okunur || boy < beklenen;
+    const bool fazla = boy > beklenen;
+    denetle(eksik, fazla, sürsünMü);
 }
 
 /// @param eksik, fazla whether the file is shorter or longer than its first page says

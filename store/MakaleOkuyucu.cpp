@@ -175,6 +175,17 @@ void MakaleOkuyucu::künyeleriAra()
 
 std::optional<Makale> MakaleOkuyucu::Oku(const MakaleKünyesi& künye)
 {
+    auto okunan = oku(künye);
+    if (!okunan) { // the one before may be at fault
+        kitaplık_.ÖnbelleğiBoşalt();
+        okunan = oku(künye);
+        kitaplık_.ÖnbelleğiBoşalt();
+    }
+    return okunan;
+}
+
+std::optional<Makale> MakaleOkuyucu::oku(const MakaleKünyesi& künye)
+{
     if (auto okunan = makaleyiOku(kitaplık_, MakaleSql, künye.Kimlik))
         return okunan;
     for (const qint64 sayfa : sayfalar_[künye.Kimlik]) {

@@ -46,6 +46,7 @@ public:
 
 private:
     void künyeleriAra();
+    std::optional<Makale> oku(const MakaleKünyesi& künye);
 
     Bağlantı& kitaplık_;
     YapıDurumu durum_;

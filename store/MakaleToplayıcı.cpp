@@ -23,7 +23,8 @@ constexpr auto BaşlıkDizini = "SELECT Kimlik, NULL, MakaleBasligi FROM Makalel
 
 // The kinds of pages, by their first byte. What leads to table pages holds no article.
 constexpr quint8 TabloYaprağı = 13, DizinYaprağı = 10, DizinDalı = 2;
-constexpr qint64 İlkSayfa = 2; // the one before holds the names of the tables
+constexpr int EnÇokUlaşılamayan = 16; // keys in a row, before the table's paths are given up
+constexpr qint64 İlkSayfa = 2;        // the one before holds the names of the tables
 constexpr std::size_t Deste =
     64; // pages that are made known to SQLite at once: that costs more than one page
 
@@ -51,10 +52,10 @@ MakaleToplayıcı::MakaleToplayıcı(KurtarmaKaynağı& kaynak, std::unordered_s
 void MakaleToplayıcı::TümünüTopla()
 {
     tablo_ = tabloyuGez();
-    anahtarlarlaAra(); // what one that can't be read has taken with it
     // Where the table is whole, what only an index knows of is the index's fault, unless both agree against
     // it.
     if (tablo_) {
+        anahtarlarlaAra(); // what one that can't be read has taken with it
         const YapıDurumu dizinler =
             adlarTam_ ? DizinleriDenetle(kaynak_.Dosya(), toplam_) : YapıDurumu::DizinBozuk;
         tabloyaGöre(dizinler);
@@ -198,37 +199,37 @@ try {
     return {};
 }
 
-/// SQLCipher tells of a page that doesn't decipher at the next page that is read, which then stands in memory
-/// as zeros though nothing is wrong with it. So another page is read in vain, and all are forgotten.
-void MakaleToplayıcı::önbelleğiBoşalt()
+template<class İş> bool MakaleToplayıcı::yineleyerek(İş&& oku)
 {
-    Bağlantı& kitaplık = kaynak_.Dosya();
-    kitaplık.Sayı("PRAGMA shrink_memory");
-    OkunduğuKadar([&] { kitaplık.Sayı("SELECT count(*) FROM sqlite_master"); });
-    kitaplık.Sayı("PRAGMA shrink_memory");
+    if (oku())
+        return true;
+    kaynak_.Dosya().ÖnbelleğiBoşalt();
+    if (oku())
+        return true;
+    kaynak_.Dosya().ÖnbelleğiBoşalt();
+    return false;
 }
 
+/// By the table's paths. Where they lead nowhere for one key after the other, the rest is left to the pages.
 void MakaleToplayıcı::anahtarlarlaAra()
 {
     Deyim deyim(kaynak_.Dosya(), AnahtarlaSql);
-    for (auto sıra = Eksikler.begin(); sıra != Eksikler.end();) {
+    int ulaşılamayan = 0; // keys in a row
+    for (auto sıra = Eksikler.begin(); sıra != Eksikler.end() && ulaşılamayan < EnÇokUlaşılamayan;) {
         const qint64 kimlik = (sıra++)->first; // what is taken is deleted from them
-        bool alındı = false, yok = false;
-        const auto oku = [&] {
-            const bool okundu = OkunduğuKadar([&] {
-                yok = !deyim.Bağla(1, kimlik).Adım();
-                alındı = !yok && al(deyim);
+        bool ulaşıldı = false;
+        const bool okundu = yineleyerek([&] {
+            bool tamam = false;
+            OkunduğuKadar([&] {
+                const bool var = deyim.Bağla(1, kimlik).Adım();
+                ulaşıldı = true;
+                tamam = !var || al(deyim);
             });
             deyim.Sıfırla();
-            return okundu && (yok || alındı);
-        };
-        if (oku())
-            continue;
-        önbelleğiBoşalt();
-        if (!oku()) {
-            okunamayanVar_ = true;
-            önbelleğiBoşalt();
-        }
+            return tamam;
+        });
+        okunamayanVar_ = okunamayanVar_ || !okundu;
+        ulaşılamayan = ulaşıldı ? 0 : ulaşılamayan + 1;
     }
 }
 
@@ -236,8 +237,9 @@ void MakaleToplayıcı::anahtarlarlaAra()
 void MakaleToplayıcı::sayfalarıGez()
 {
     if (!dizinler_)
-        sayfalarıGez({DizinYaprağı, DizinDalı}, DizinSayfası,
-                     [this](const QByteArray& dizin) { diziniGez(DizinSayfasıSorgusu(dizin)); });
+        sayfalarıGez({DizinYaprağı, DizinDalı}, DizinSayfası, [this](const QByteArray& dizin) {
+            yineleyerek([&] { return diziniGez(DizinSayfasıSorgusu(dizin)).has_value(); });
+        });
     sayfalarıGez({TabloYaprağı}, TabloSayfası, [this](const QByteArray& tablo) { tabloSayfasınıGez(tablo); });
 }
 
@@ -284,12 +286,15 @@ Deyim MakaleToplayıcı::sayfaDeyimi(const QByteArray& sql)
 void MakaleToplayıcı::tabloSayfasınıGez(const QByteArray& tablo)
 {
     std::vector<qint64> arananlar;
-    OkunduğuKadar([&] {
-        for (Deyim deyim = sayfaDeyimi("SELECT Kimlik FROM " + tablo); deyim.Adım();) {
-            const qint64 kimlik = deyim.Sayı(0);
-            if (aranır(kimlik) && (!dizinler_ || Eksikler.contains(kimlik)))
-                arananlar.push_back(kimlik);
-        }
+    yineleyerek([&] {
+        arananlar.clear();
+        return OkunduğuKadar([&] {
+            for (Deyim deyim = sayfaDeyimi("SELECT Kimlik FROM " + tablo); deyim.Adım();) {
+                const qint64 kimlik = deyim.Sayı(0);
+                if (aranır(kimlik) && (!dizinler_ || Eksikler.contains(kimlik)))
+                    arananlar.push_back(kimlik);
+            }
+        });
     });
     for (const qint64 kimlik : arananlar) {
         const auto bilinen = Eksikler.find(kimlik);
@@ -300,11 +305,14 @@ void MakaleToplayıcı::tabloSayfasınıGez(const QByteArray& tablo)
                     iş(deyim);
             });
         };
-        bool alındı = false;
-        oku(SatırSütunları, [&](const Deyim& deyim) {
-            // A page with other names is an older copy.
-            if (bilinen == Eksikler.end() || bilinen->second.AdlarıUyar(ad(deyim, 1), ad(deyim, 2)))
-                alındı = al(deyim);
+        const bool alındı = yineleyerek([&] {
+            bool tamam = false;
+            oku(SatırSütunları, [&](const Deyim& deyim) {
+                // A page with other names is an older copy.
+                if (bilinen == Eksikler.end() || bilinen->second.AdlarıUyar(ad(deyim, 1), ad(deyim, 2)))
+                    tamam = al(deyim);
+            });
+            return tamam;
         });
         if (!alındı)
             oku("SELECT Kimlik, YazarAdi, MakaleBasligi FROM ", [this](const Deyim& deyim) { bil(deyim); });

@@ -53,7 +53,9 @@ private:
     bool satırıAtla(qint64& son);
     void dizinleriGez();
     std::optional<SatırToplamı> diziniGez(const QByteArray& sql);
-    void önbelleğiBoşalt();
+    /// Calls for a second time where the first one was false: what was read before may be at fault.
+    /// @return whether it was true
+    template<class İş> bool yineleyerek(İş&& oku);
     void anahtarlarlaAra();
     void sayfalarıGez();
     void sayfalarıGez(std::initializer_list<quint8> türler, QByteArray (*tabloSql)(const QByteArray&),

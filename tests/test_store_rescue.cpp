@@ -57,7 +57,7 @@ private slots:
         const DenemeKitaplığı kitaplık(makaleler);
         const QString mde = kitaplık.Klasör() + u"Makale.mde"_s;
         const QByteArray sağlam = DosyaOku(mde);
-        qint64 kayıp = 0, kayıpBaytla = 0, beklenen = 0;
+        qint64 kayıp = 0, kayıpBaytla = 0, kayıpKöksüz = 0, beklenen = 0;
         for (const Makale& makale : makaleler)
             beklenen += sayfaSayısı(makale);
         for (qsizetype yer = 0; yer < sağlam.size(); yer += SayfaBoyu) {
@@ -74,21 +74,27 @@ private slots:
             kayıp += makaleler.size() - gelen.size();
             QByteArray sayfa = sağlam.mid(yer, SayfaBoyu);
             sayfa[99] = char(sayfa[99] ^ 1);
-            DosyaYaz(mde, QByteArray(sağlam).replace(yer, SayfaBoyu, sayfa));
+            QByteArray bozuk = QByteArray(sağlam).replace(yer, SayfaBoyu, sayfa);
+            DosyaYaz(mde, bozuk);
             kayıpBaytla += makaleler.size() - kurtar(kitaplık.Klasör(), KurtarmaKipi::Dene).Kitaplıktan;
+            DosyaYaz(mde,
+                     bozuk.replace(SayfaBoyu, SayfaBoyu, QByteArray(SayfaBoyu, '\xff'))); // the table's root
+            kayıpKöksüz += makaleler.size() - kurtar(kitaplık.Klasör(), KurtarmaKipi::Dene).Kitaplıktan;
         }
-        qInfo("%lld pages, lost %lld articles of pages that hold them, %lld by one byte",
-              qint64(sağlam.size() / SayfaBoyu), kayıp, kayıpBaytla);
+        qInfo(
+            "%lld pages, lost %lld articles of pages that hold them, %lld by one byte, %lld without the root",
+            qint64(sağlam.size() / SayfaBoyu), kayıp, kayıpBaytla, kayıpKöksüz);
         // Whoever has bytes on a page is lost with it, so equal sums mean that nobody else is.
         QCOMPARE(kayıp, beklenen);
         QCOMPARE(kayıpBaytla, beklenen);
+        QCOMPARE(kayıpKöksüz, beklenen);
     }
 
     void otherDamage_data()
     {
         QTest::addColumn<QString>("olay");
-        for (const char* olay :
-             {"with the spare", "cut", "no accounts", "lost", "half a page", "table's root"})
+        for (const char* olay : {"with the spare", "cut", "no accounts", "lost", "half a page",
+                                 "table's root", "garbage journal"})
             QTest::newRow(olay) << QString::fromLatin1(olay);
     }
     void otherDamage()
@@ -125,6 +131,8 @@ private slots:
         DosyaYaz(mde, baytlar);
         if (olay == u"lost")
             QVERIFY(QFile::remove(mde));
+        if (olay == u"garbage journal")
+            DosyaYaz(mde + u"-journal"_s, QByteArray(5000, 'x'));
         if (olay == u"no accounts")
             QVERIFY(QFile::remove(kitaplık.Klasör() + u"Makale.tps"_s));
         const KurtarmaSonucu sonuç = kurtar(kitaplık.Klasör());
@@ -139,6 +147,7 @@ private slots:
                 QVERIFY2(gelen.contains(makale), qPrintable(makale.Başlık));
         }
         QCOMPARE(sonuç.KitaplıkHatası.has_value(), olay == u"lost");
+        QVERIFY(!sonuç.GeriAlındı);
         QCOMPARE(sonuç.Kopyadan > 0, yedekli);
         Açılış{yeni()}; // the program opens it
         QCOMPARE(HataNumarası([&] { KitaplığıKurtar(kitaplık.Klasör(), yeni(), KurtarmaKipi::Kur, {}); }),
