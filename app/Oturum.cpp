@@ -41,6 +41,14 @@ void Oturum::SahipOlarakAç(const QString& klasör, Erişim erişim)
         erişim == Erişim::Yazma ? KitaplıkAç(*ÇalışmaAlanı, klasör) : OkunurKitaplıkAç(*ÇalışmaAlanı, klasör);
 }
 
+YapıDurumu Oturum::SıkıştırıpSahipOlarakAç(const QString& klasör)
+{
+    sahipAlanınıAç(klasör, {});
+    const YapıDurumu durum = VeritabanınıSıkıştır(*Motor, klasör, {});
+    Veritabanı = KitaplıkAç(*ÇalışmaAlanı, klasör);
+    return durum;
+}
+
 void Oturum::Kapat(const PencereSonu& son)
 {
     AdımAdım(

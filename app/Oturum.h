@@ -35,6 +35,9 @@ public:
     YapıDurumu Aç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir = {});
     /// For work on a library that stays as it is: takes the lock and opens it as its owner.
     void SahipOlarakAç(const QString& klasör, Erişim erişim);
+    /// The same for work that needs sound indices: compacts the library first, as Aç does.
+    /// @return what the compaction found
+    YapıDurumu SıkıştırıpSahipOlarakAç(const QString& klasör);
 
     /// The program's end: lets go of the library but not of the lock, deletes the user account and stores the
     /// settings. Errors end their own step only.

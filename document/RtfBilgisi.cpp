@@ -47,11 +47,7 @@ public:
     explicit BilgiOkuyucu(QByteArrayView belge)
         : sözcükler_(belge), harfler_(başlık_, [this](char16_t h) { harf(h); })
     {
-        const RtfKodlaması kodlama = RtfKodlamasıBul(belge);
-        if (kodlama.KaçışlıUtf8)
-            başlık_.Utf8Varsay();
-        if (kodlama.HamUtf8)
-            harfler_.HamUtf8Varsay();
+        harfler_.Varsay(RtfKodlamasıBul(belge));
     }
 
     BelgeBilgisi oku()

@@ -9,6 +9,14 @@ RtfHarfleri::RtfHarfleri(RtfBaşlığı& başlık, std::function<void(char16_t)>
 {
 }
 
+void RtfHarfleri::Varsay(const RtfKodlaması& kodlama)
+{
+    if (kodlama.KaçışlıUtf8)
+        başlık_.Utf8Varsay();
+    if (kodlama.HamUtf8)
+        hamUtf8_.emplace(KodSayfası::Utf8);
+}
+
 void RtfHarfleri::YazıTipi(int yer)
 {
     if (yer != yazıTipi_)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/RtfBaşlığı.h"
+#include "document/RtfÖnBakış.h"
 
 #include <array>
 #include <functional>
@@ -23,8 +24,8 @@ public:
     /// @param alıcı is given each UTF-16 unit
     RtfHarfleri(RtfBaşlığı& başlık, std::function<void(char16_t)> alıcı);
 
-    /// Raw bytes above 127 are UTF-8, whatever the font.
-    void HamUtf8Varsay() { hamUtf8_.emplace(KodSayfası::Utf8); }
+    /// Where bytes above 127 are UTF-8, whatever font and head say.
+    void Varsay(const RtfKodlaması& kodlama);
     /// Font of the bytes that follow, by its place in the head.
     void YazıTipi(int yer);
     /// The head has changed.

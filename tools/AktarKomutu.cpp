@@ -39,9 +39,8 @@ public:
         if (rapor.isEmpty())
             return;
         rapor_.emplace(rapor, HedefDosya::Varsa::Değiştir);
-        rapor_->Yaz("\xef\xbb\xbf" + CsvSatırı(QStringList{QStringLiteral("Sonuç"), QStringLiteral("Kaynak"),
-                                                           QStringLiteral("Yazar"), QStringLiteral("Başlık"),
-                                                           QStringLiteral("Neden")}));
+        rapor_->Yaz(CsvBaşı({QStringLiteral("Sonuç"), QStringLiteral("Kaynak"), QStringLiteral("Yazar"),
+                             QStringLiteral("Başlık"), QStringLiteral("Neden")}));
     }
 
     void Ekle(const AktarımSatırı& satır)

@@ -6,6 +6,7 @@
 #include "tools/Durdurma.h"
 #include "tools/JsonSatırları.h"
 #include "tools/KomutGövdeleri.h"
+#include "tools/Künye.h"
 #include "tools/Uçbirim.h"
 
 #include <optional>
@@ -43,9 +44,7 @@ QByteArray işaretliBağlam(const AramaSonucu& sonuç, bool uçbirim)
 QByteArray yazıSatırı(const AramaSonucu& sonuç, bool uçbirim)
 {
     const Makale& makale = sonuç.Bulunan;
-    QString künye = makale.Yazar + QStringLiteral(": ") + makale.Başlık;
-    for (const QString& ek : {makale.Yer, makale.Tarih})
-        künye += ek.isEmpty() ? QString() : QStringLiteral(", ") + ek;
+    const QString künye = Sıralanmış({ListeMetni(makale), makale.Yer, makale.Tarih});
     return künye.toUtf8() + "\n    " + işaretliBağlam(sonuç, uçbirim) + '\n';
 }
 

@@ -211,10 +211,15 @@ QByteArray CsvSatırı(const Makale& makale)
     return CsvSatırı(alanlar);
 }
 
+QByteArray CsvBaşı(const QStringList& sütunlar)
+{
+    return "\xef\xbb\xbf" + CsvSatırı(sütunlar);
+}
+
 QByteArray CsvBaşı()
 {
     QStringList adlar;
     for (const SütunTanımı& sütun : MakaleSütunları)
         adlar.append(sütun.ad.toString());
-    return "\xef\xbb\xbf" + CsvSatırı(adlar);
+    return CsvBaşı(adlar);
 }

@@ -9,7 +9,9 @@
 /// One row of fields, each in quotes, behind a comma; with its line break.
 QByteArray CsvSatırı(const QStringList& alanlar);
 QByteArray CsvSatırı(const Makale& makale);
-/// The byte order mark, by which spreadsheets know UTF-8, and the row of the columns' names.
+/// The byte order mark, by which spreadsheets know UTF-8, and a row of columns' names.
+QByteArray CsvBaşı(const QStringList& sütunlar);
+/// The same with those of an article.
 QByteArray CsvBaşı();
 
 /// The columns stand in the order that the first row names, or that was given. UTF-8 with or without a byte

@@ -1,7 +1,7 @@
+#include "app/Oturum.h"
 #include "store/KitaplıkDenetimi.h"
 #include "store/KitaplıkYapısı.h"
 #include "store/KitaplıkYedeği.h"
-#include "store/MakaleKitaplığı.h"
 #include "store/MakaleKuralları.h"
 #include "text/TürkçeHarfler.h"
 #include "tools/AraçHatası.h"
@@ -107,23 +107,6 @@ void yedekAl(const QString& klasör, const QString& hedef, const DurdurmaBekçis
     Bildir(QStringLiteral("Yedek: %1").arg(sonuç.Yol));
 }
 
-/// The library opened for mending: compacted first, as at every start, which makes a damaged index anew.
-struct OnarımOturumu
-{
-    OnarımOturumu(const QString& klasör, bool deneme)
-    {
-        Motor.SystemDB(KitaplıkYolu(klasör, DosyaAdları::Grup));
-        Dizin = !deneme && VeritabanınıSıkıştır(Motor, klasör, {}) != YapıDurumu::Sağlam;
-        Alan = SahipÇalışmaAlanı(Motor);
-        Kitaplık = deneme ? OkunurKitaplıkAç(*Alan, klasör) : KitaplıkAç(*Alan, klasör);
-    }
-
-    DBEngine Motor;
-    std::optional<Workspace> Alan;
-    std::optional<Database> Kitaplık;
-    bool Dizin = false; ///< whether an index had to be made anew
-};
-
 } // namespace
 
 ÇıkışDurumu DenetleKomutu(const Değişkenler& değişkenler)
@@ -153,12 +136,17 @@ struct OnarımOturumu
     const DurdurmaBekçisi bekçi;
     if (!değişkenler.Deneme())
         yedekAl(klasör, değişkenler.Değer(u"yedek"), bekçi);
-    OnarımOturumu oturum(klasör, değişkenler.Deneme());
+    Oturum oturum;
+    YapıDurumu durum = YapıDurumu::Sağlam;
+    if (değişkenler.Deneme())
+        oturum.SahipOlarakAç(klasör, Oturum::Erişim::Okuma);
+    else
+        durum = oturum.SıkıştırıpSahipOlarakAç(klasör);
     QStringList satırlar;
     qint64 tekSözcüklü = 0;
     const auto onar = [&] {
         İlerleme ilerleme(QStringLiteral("Makaleler onarılıyor"));
-        Onarıcı onarıcı(*oturum.Kitaplık);
+        Onarıcı onarıcı(*oturum.Veritabanı);
         const auto değiştir = [&](Recordset& kayıtlar, const Onarım& onarım) {
             satırlar.append(onarımSatırı(onarım));
             if (!değişkenler.Deneme())
@@ -170,12 +158,12 @@ struct OnarımOturumu
     if (değişkenler.Deneme())
         onar();
     else
-        oturum.Kitaplık->TekİşlemdeYap(onar);
+        oturum.Veritabanı->TekİşlemdeYap(onar);
 
     Çıktı çıktı;
     if (değişkenler.Deneme())
         çıktı.Yaz(DenemeMetni + u'\n');
-    if (oturum.Dizin)
+    if (durum == YapıDurumu::DizinBozuk)
         çıktı.Yaz(QStringLiteral("Bir dizin bozuktu; yeniden yapıldı.\n"));
     for (const QString& satır : satırlar)
         çıktı.Yaz(satır + u'\n');

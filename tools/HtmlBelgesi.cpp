@@ -1,8 +1,8 @@
 #include "tools/HtmlBelgesi.h"
 
 #include "tools/Hedef.h"
+#include "tools/Künye.h"
 
-#include <QStringList>
 #include <QXmlStreamWriter>
 
 namespace {
@@ -52,7 +52,7 @@ void içindekileriYaz(QXmlStreamWriter& xml, const MakaleGezisi& gez)
         xml.writeStartElement(QStringLiteral("li"));
         xml.writeStartElement(QStringLiteral("a"));
         xml.writeAttribute(QStringLiteral("href"), u'#' + çapa(++no));
-        xml.writeCharacters(yazılabilir(makale.Yazar + QStringLiteral(": ") + makale.Başlık));
+        xml.writeCharacters(yazılabilir(ListeMetni(makale)));
         xml.writeEndElement();
         xml.writeEndElement();
     });
@@ -65,11 +65,9 @@ void makaleyiYaz(QXmlStreamWriter& xml, const Makale& makale, qint64 no)
     xml.writeAttribute(QStringLiteral("id"), çapa(no));
     xml.writeCharacters(yazılabilir(makale.Başlık));
     xml.writeEndElement();
-    QStringList künye = {makale.Yazar, makale.Yer, makale.Tarih};
-    künye.removeAll(QString());
     xml.writeStartElement(QStringLiteral("p"));
     xml.writeAttribute(QStringLiteral("class"), QStringLiteral("kunye"));
-    xml.writeCharacters(yazılabilir(künye.join(QStringLiteral(", "))));
+    xml.writeCharacters(yazılabilir(Sıralanmış({makale.Yazar, makale.Yer, makale.Tarih})));
     xml.writeEndElement();
     for (const QString& paragraf : makale.Metin.split(u'\n'))
         xml.writeTextElement(QStringLiteral("p"), yazılabilir(paragraf));

@@ -56,7 +56,7 @@ Tür içindenTür(const QString& yol)
 {
     if (!QFileInfo(yol).suffix().isEmpty())
         return Tür::Belge;
-    if (const auto tür = KaynakçaTürüBul(yol))
+    if (const auto tür = KaynakçaTürüBul(yol)) // by what it holds
         return *tür == KaynakçaTürü::BibTeX ? Tür::BibTeX : Tür::Ris;
     QFile dosya(yol);
     if (!dosya.open(QIODevice::ReadOnly))

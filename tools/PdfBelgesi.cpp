@@ -2,6 +2,7 @@
 
 #include "system/SayfaDökümü.h"
 #include "tools/Hedef.h"
+#include "tools/Künye.h"
 
 #include <QGuiApplication>
 #include <QPageSize>
@@ -81,9 +82,7 @@ public:
         döküm_->YeniSayfa();
         const int sayfa = döküm_->Sayfa();
         başlık(makale.Başlık);
-        QStringList künye = {makale.Yazar, makale.Yer, makale.Tarih};
-        künye.removeAll(QString());
-        döküm_->Metin(künye.join(QStringLiteral(", ")) + QStringLiteral("\n\n"));
+        döküm_->Metin(Sıralanmış({makale.Yazar, makale.Yer, makale.Tarih}) + QStringLiteral("\n\n"));
         döküm_->Metin(makale.Metin);
         return sayfa;
     }
@@ -110,9 +109,7 @@ void PdfVer(const QString& hedef, const MakaleGezisi& gez)
     HedefDosya dosya(hedef, HedefDosya::Varsa::Reddet);
     const YazıTipiOrtamı ortam;
     std::vector<İçindekilerSatırı> satırlar;
-    gez([&satırlar](const Makale& makale) {
-        satırlar.push_back({makale.Yazar + QStringLiteral(": ") + makale.Başlık});
-    });
+    gez([&satırlar](const Makale& makale) { satırlar.push_back({ListeMetni(makale)}); });
     BoşAygıt boş;
     boş.open(QIODevice::WriteOnly);
     PdfBelgesi taslak(boş);
