@@ -16,6 +16,7 @@ const QString DizinOnarıldıMetni =
 
 void Oturum::sahipAlanınıAç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir)
 {
+    klasör_ = klasör;
     Motor.emplace(bildir);
     Motor->SystemDB(KitaplıkYolu(klasör, DosyaAdları::Grup));
     ÇalışmaAlanı = SahipÇalışmaAlanı(*Motor);
@@ -56,6 +57,7 @@ void Oturum::Kapat(const PencereSonu& son)
             Veritabanı.reset();
             ÇalışmaAlanı.reset();
         },
+        [this] { VeritabanınıMühürle(Motor.value(), klasör_); },
         [this] {
             Workspace sahip = SahipÇalışmaAlanı(Motor.value());
             KullanıcıHesabınıSil(sahip);

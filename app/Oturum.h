@@ -39,8 +39,8 @@ public:
     /// @return what the compaction found
     YapıDurumu SıkıştırıpSahipOlarakAç(const QString& klasör);
 
-    /// The program's end: lets go of the library but not of the lock, deletes the user account and stores the
-    /// settings. Errors end their own step only.
+    /// The program's end: lets go of the library but not of the lock, seals it, deletes the user account and
+    /// stores the settings. Errors end their own step only.
     void Kapat(const PencereSonu& son);
     /// Lets go of the library and its lock, nothing else.
     void Bırak();
@@ -52,4 +52,6 @@ public:
 
 private:
     void sahipAlanınıAç(const QString& klasör, const DBEngine::İlerlemeBildirimi& bildir);
+
+    QString klasör_; // with a separator at its end
 };

@@ -57,43 +57,47 @@ void kitaplıkla(const QString& klasör, int makaleler, const QList<qsizetype>& 
     iş(ÖrnekKitaplık(ProgramKlasörü, makaleler, uzunluklar));
 }
 
-void ölç(const QString& klasör, bool kısa)
+void ölç(const QString& klasör, const QList<int>& boylar, bool pencereyle)
 {
     Tablo tablo;
     tablo.BaşlığıYaz();
-    for (const int boy : kısa ? KısaBoylar : Boylar) {
+    for (const int boy : boylar) {
         tablo.Kitaplık(QStringLiteral("%L1 makale").arg(boy));
-        kitaplıkla(klasör, boy, {}, [&tablo](const ÖrnekKitaplık& kitaplık) {
+        kitaplıkla(klasör, boy, {}, [&](const ÖrnekKitaplık& kitaplık) {
             for (const auto ölç : KapalıÖlçümler)
                 ölç({kitaplık, tablo});
-            penceredeÖlç(kitaplık, tablo, PencereÖlçümleri);
+            if (pencereyle)
+                penceredeÖlç(kitaplık, tablo, PencereÖlçümleri);
         });
     }
-    tablo.Kitaplık(QStringLiteral("uzun metinli"));
-    kitaplıkla(klasör, UzunlarınYanındakiler, Uzunluklar, [&tablo](const ÖrnekKitaplık& kitaplık) {
-        penceredeÖlç(kitaplık, tablo, UzunMetinÖlçümleri);
-    });
+    if (pencereyle) {
+        tablo.Kitaplık(QStringLiteral("uzun metinli"));
+        kitaplıkla(klasör, UzunlarınYanındakiler, Uzunluklar, [&tablo](const ÖrnekKitaplık& kitaplık) {
+            penceredeÖlç(kitaplık, tablo, UzunMetinÖlçümleri);
+        });
+    }
     tablo.SonucuYaz();
 }
 
 } // namespace
 
-/// belgenar_bench FOLDER [--kısa]: keeps its libraries in the folder while it runs, up to 1.5 GB.
+/// Keeps its libraries in the folder while it runs, up to 1.5 GB.
 int main(int argc, char** argv)
 {
     qInstallMessageHandler(&iletiYaz);
     QApplication uygulama(argc, argv);
-    const QStringList sözler = QCoreApplication::arguments();
-    const bool kısa = sözler.size() == 3 && (sözler[2] == u"--kısa" || sözler[2] == u"--kisa");
-    if (sözler.size() != (kısa ? 3 : 2) || !QDir(sözler[1]).exists()) {
-        std::fprintf(stderr, "Kullanım: belgenar_bench KLASÖR [--kısa]\n");
+    QStringList sözler = QCoreApplication::arguments().mid(1);
+    const bool kısa = sözler.removeAll(QStringLiteral("--kısa")) > 0;
+    const bool pencereyle = sözler.removeAll(QStringLiteral("--kapalı")) == 0;
+    if (sözler.size() != 1 || !QDir(sözler[0]).exists()) {
+        std::fprintf(stderr, "Kullanım: belgenar_bench KLASÖR [--kısa] [--kapalı]\n");
         return 2;
     }
     QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(sözler[1])); // the user's settings take no part
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(sözler[0])); // the user's settings take no part
     AyarUygulamaAdı = QStringLiteral("Belgenar\\Benchmark");
     try {
-        ölç(sözler[1], kısa);
+        ölç(sözler[0], kısa ? KısaBoylar : Boylar, pencereyle);
     } catch (const std::exception& hata) {
         std::fprintf(stderr, "belgenar_bench: %s\n", hata.what());
         return 1;

@@ -538,8 +538,13 @@ QString Deyim::SütunAdı(int sütun) const
 
 İşlem::İşlem(Bağlantı& bağlantı) : bağlantı_(bağlantı), açık_(!bağlantı.İşlemde())
 {
-    if (açık_)
-        bağlantı_.Çalıştır("BEGIN IMMEDIATE");
+    if (!açık_)
+        return;
+    if (bağlantı_.ilkYazma_) {
+        bağlantı_.ilkYazma_();
+        bağlantı_.ilkYazma_ = {};
+    }
+    bağlantı_.Çalıştır("BEGIN IMMEDIATE");
 }
 
 İşlem::~İşlem()

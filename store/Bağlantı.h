@@ -52,6 +52,10 @@ public:
     /// Attaches another file, always with a key: without one SQLCipher may write plain text.
     void İliştir(const QString& yol, const Anahtar& anahtar, const QByteArray& ad);
 
+    /// Called once, before the first transaction that may change the file; where it throws, that doesn't
+    /// begin, and the next one calls it again.
+    void İlkYazmadaÇağır(std::function<void()> iş) { ilkYazma_ = std::move(iş); }
+
     /// Whether a transaction is open.
     bool İşlemde() const;
     /// Ends the open transaction. Once its journal is gone it stands, whatever fails after that; only what
@@ -85,6 +89,7 @@ public:
 
 private:
     friend class Deyim;
+    friend class İşlem;
     struct Kapatıcı
     {
         void operator()(sqlite3* db) const noexcept;
@@ -101,6 +106,7 @@ private:
     QString yol_;
     std::unique_ptr<sqlite3, Kapatıcı> db_;
     std::function<bool()> sürsünMü_;
+    std::function<void()> ilkYazma_;
     bool sürüm4_ = false;    // of SQLCipher
     qint64 sonBildirim_ = 0; // ms of the steady clock
 };

@@ -1,6 +1,7 @@
 // The database engine: the workgroup file, workspaces on it, and compaction.
 #pragma once
 
+#include "store/KitaplıkSıkıştırma.h"
 #include "store/KlasörKilidi.h"
 #include "store/VeritabanıHatası.h"
 #include "store/Workspace.h"
@@ -8,14 +9,7 @@
 #include <QString>
 
 #include <functional>
-#include <memory>
 #include <optional>
-
-class Bağlantı;
-class ÇalışmaGrubu;
-enum class AçmaKipi;
-enum class DizinKaynağı;
-enum class YapıDurumu;
 
 /// What CompactDatabase may be asked for; the copy is always encrypted, so that is the only choice.
 constexpr int dbEncrypt = 2;
@@ -47,20 +41,20 @@ public:
     /// when this returns; on failure none is left behind. Throws DosyaVar when the target exists, DosyaBozuk
     /// when any row of the source can't be read whole or its pages contradict each other, DiskDolu,
     /// SaltOkunur, ParolaYanlış and what opening throws.
-    /// @return YapıDurumu::DizinBozuk where a damaged index was made anew from the table, else Sağlam
     /// @param hedefYereli ";LANGID=0x041F;CP=1254;COUNTRY=0", the only collation there is (else
     /// KitaplıkDeğil)
     /// @param seçenekler dbEncrypt; there are no plain-text libraries, so anything else is İzinYok
     /// @param kaynakYereli connect string of the source, ";Pwd=..."; the copy keeps that password
-    YapıDurumu CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
-                               int seçenekler, const QString& kaynakYereli);
+    SıkıştırmaSonucu CompactDatabase(const QString& kaynak, const QString& hedef, const QString& hedefYereli,
+                                     int seçenekler, const QString& kaynakYereli);
+
+    /// For the end of work on a library, after it was closed: notes in the workgroup file which bytes it
+    /// holds, unless nothing has changed since that was noted. The next CompactDatabase then has less to look
+    /// at. Throws what opening throws.
+    /// @param yerel connect string of the library, ";Pwd=..."
+    void SealDatabase(const QString& yol, const QString& yerel);
 
 private:
-    std::unique_ptr<Bağlantı> kitaplıkAç(const QString& yol, const QString& parola, AçmaKipi kip,
-                                         ÇalışmaGrubu& grup) const;
-    YapıDurumu kopyalaVeDoğrula(Bağlantı& kaynak, const QString& hedef, const QString& parola,
-                                ÇalışmaGrubu& grup, DizinKaynağı dizinler) const;
-
     İlerlemeBildirimi bildir_;
     QString grupYolu_;
     std::optional<KlasörKilidi> kilit_;

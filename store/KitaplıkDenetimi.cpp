@@ -23,6 +23,9 @@ constexpr qint64 EnÇokMakale = 20; // bad articles that are named one by one
 constexpr qsizetype EnUzunAd = 80; // characters of a title that names one
 
 const QString FazlaBaytMetni = QStringLiteral("Dosyanın sonunda kitaplığa ait olmayan baytlar var.");
+const QString EskiSayfaMetni =
+    QStringLiteral("Dosyanın bir bölümü, son kapanıştan önceki eski haline dönmüş; bir makale eski metniyle "
+                   "görünüyor olabilir.");
 const QString YarımMetni = QStringLiteral(
     "%1 dosyasında yarım kalmış bir yazma var; dosya bir sonraki açılışta ondan önceki durumuna döner.");
 /// In the order of MakaleKusuru; %1 is a number of articles.
@@ -74,6 +77,7 @@ private:
     Kaynak kaynak(QStringView dosya);
 
     YapıDurumu yapı(Bağlantı& kitaplık);
+    bool eskiSayfaVar(const Bağlantı& kitaplık);
     void satırlar(Bağlantı& kitaplık, YapıDurumu durum);
     std::optional<DenetimBulgusu> kusur(const std::optional<Makale>& makale);
 
@@ -149,6 +153,8 @@ void Denetçi::VeritabanınıDenetle()
     dene(dosya, [&] {
         const auto kitaplık = KitaplıkBağlantısı(yer.klasör, yer.kip, *grup_);
         satırlar(*kitaplık, yapı(*kitaplık));
+        if (yer.kip == AçmaKipi::Oku && eskiSayfaVar(*kitaplık))
+            ekle(bulgu(dosya, HataNo::DosyaBozuk, EskiSayfaMetni));
     });
     for (std::size_t i = 0; i < kusurlular_.size(); ++i) {
         if (kusurlular_[i] > 0)
@@ -169,6 +175,17 @@ YapıDurumu Denetçi::yapı(Bağlantı& kitaplık)
     else if (durum != YapıDurumu::Sağlam)
         ekle(bulgu(dosya, VeritabanıHatası(HataNo::DosyaBozuk)));
     return durum;
+}
+
+/// Of pages that are whole; others were found before.
+bool Denetçi::eskiSayfaVar(const Bağlantı& kitaplık)
+{
+    const std::optional<Mühür> mühür = grup_->KitaplıkMührü();
+    if (!mühür)
+        return false;
+    const SayfaBulgusu sayfalar =
+        SayfalarıDenetle(kitaplık.Yol(), KitaplıkAnahtarı(kitaplık.Tuz()), [this] { bildir_(0, 0); });
+    return sayfalar.Doğru && sayfalar.Bulunan.Kimlik == mühür->Kimlik && sayfalar.Bulunan.Özet != mühür->Özet;
 }
 
 void Denetçi::satırlar(Bağlantı& kitaplık, YapıDurumu durum)

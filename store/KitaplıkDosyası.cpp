@@ -7,16 +7,21 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <limits>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
 namespace {
 
 constexpr std::size_t BlokBoyu = 4 << 20;
+constexpr std::size_t EldenBlokBoyu = 256 << 10; // clearing a large one takes longer than what it holds
 
 /// A file descriptor that closes itself.
 class Tanıtıcı
@@ -43,13 +48,13 @@ public:
         if (aktarılan < 0 && errno != EXDEV && errno != ENOSYS && errno != EINVAL && errno != EOPNOTSUPP)
             SistemHatasıVer(errno, Erişim::Yazma, yol_);
         // Some file systems also say 0 too early, so the end is what read calls the end.
-        std::vector<char> blok(enÇok);
+        std::vector<char> blok(std::min(enÇok, EldenBlokBoyu));
         const std::size_t boy = diğer.oku(blok.data(), blok.size());
         yaz(blok.data(), boy);
         return boy;
     }
     /// Has the system begin to write bytes to the disk, so that a later sync waits less; a file system that
-    /// can't do that writes all of them then.
+    /// can't do that writes all of them then. A size of 0 is all that follow.
     void YazmayaBaşla(qint64 yer, std::size_t boy) const
     {
         static_cast<void>(sync_file_range(no_, yer, static_cast<off_t>(boy), SYNC_FILE_RANGE_WRITE));
@@ -102,6 +107,33 @@ private:
     Erişim erişim_;
     int no_;
 };
+
+/// Holds a file that loses its name: giving its space back takes a large one a while, and nobody waits for
+/// it.
+class SonraBırakılan
+{
+public:
+    explicit SonraBırakılan(const QString& yol)
+        : no_(open(QFile::encodeName(yol).constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC))
+    {
+    }
+    ~SonraBırakılan()
+    {
+        if (no_ >= 0)
+            std::thread([no = no_] { close(no); }).detach();
+    }
+    SonraBırakılan(const SonraBırakılan&) = delete;
+    SonraBırakılan& operator=(const SonraBırakılan&) = delete;
+
+private:
+    int no_;
+};
+
+/// Of its own for each copy, so that no two files with the same number of changes are taken for each other.
+qint32 dosyaNo()
+{
+    return QRandomGenerator::system()->bounded(1, std::numeric_limits<qint32>::max());
+}
 
 void kopyasınıYerineKoy(const QString& yeni, const QString& hedef, const struct stat& eski,
                         const std::function<void()>& bildir)
@@ -208,6 +240,7 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
         satırlar = kaynak.DeğişenSatır();
         if (dizinler == DizinKaynağı::Satırlar)
             dizinleriKur();
+        kaynak.Çalıştır("PRAGMA kopya.application_id=" + QByteArray::number(dosyaNo()));
         kaynak.Çalıştır("PRAGMA kopya.user_version=" + QByteArray::number(KitaplıkSürümü));
         işlem.Onayla();
     }
@@ -232,12 +265,16 @@ SatırToplamı SatırlarıOku(Bağlantı& kitaplık)
 SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık)
 {
     const SatırToplamı toplam = SatırlarıOku(kitaplık);
-    for (const char* dizin : DizinAdları) {
-        if (kitaplık.Sayı(QByteArray("SELECT count(*) FROM Makaleler INDEXED BY ") + dizin) !=
-            toplam.Satırlar)
-            throw VeritabanıHatası(HataNo::DosyaBozuk, kitaplık.Yol());
-    }
+    if (!DizinlerinSayısıUyar(kitaplık, toplam.Satırlar))
+        throw VeritabanıHatası(HataNo::DosyaBozuk, kitaplık.Yol());
     return toplam;
+}
+
+bool DizinlerinSayısıUyar(Bağlantı& kitaplık, qint64 satırlar)
+{
+    return std::all_of(DizinAdları.begin(), DizinAdları.end(), [&](const char* dizin) {
+        return kitaplık.Sayı(QByteArray("SELECT count(*) FROM Makaleler INDEXED BY ") + dizin) == satırlar;
+    });
 }
 
 void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir)
@@ -258,6 +295,17 @@ void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std:
     }
 }
 
+bool DosyalarıDeğiştir(const QString& yeni, const QString& kitaplık)
+{
+    struct stat eski = {};
+    const QByteArray ad = QFile::encodeName(kitaplık);
+    if (lstat(ad.constData(), &eski) != 0 || !S_ISREG(eski.st_mode))
+        return false;
+    Tanıtıcı(yeni, O_RDONLY).HaklarıVer(eski);
+    return renameat2(AT_FDCWD, QFile::encodeName(yeni).constData(), AT_FDCWD, ad.constData(),
+                     RENAME_EXCHANGE) == 0;
+}
+
 void YalnızSahibineAç(const QString& yol)
 {
     struct stat bilgi = {};
@@ -268,6 +316,7 @@ void YalnızSahibineAç(const QString& yol)
 
 void DosyayıTaşı(const QString& yol, const QString& yeniYol)
 {
+    const SonraBırakılan eski(yeniYol);
     if (rename(QFile::encodeName(yol).constData(), QFile::encodeName(yeniYol).constData()) != 0)
         SistemHatasıVer(errno, Erişim::Yazma, yeniYol);
     ÜstKlasörüDiskeYaz(yeniYol);
@@ -285,6 +334,11 @@ void DosyayıKopyala(const QString& kaynak, const QString& hedef, const std::fun
         yer += static_cast<qint64>(boy);
         bildir(static_cast<qint64>(boy));
     }
+}
+
+void DiskeYazmayaBaşla(const QString& yol)
+{
+    Tanıtıcı(yol, O_RDONLY).YazmayaBaşla(0, 0);
 }
 
 void DiskeYaz(const QString& yol)

@@ -67,6 +67,8 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
 SatırToplamı SatırlarıOku(Bağlantı& kitaplık);
 /// The same; throws DosyaBozuk also when an index has not as many entries as there are rows.
 SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık);
+/// Whether each index has as many entries.
+bool DizinlerinSayısıUyar(Bağlantı& kitaplık, qint64 satırlar);
 
 /// Replaces the library by a copy of the new file, at no moment leaving a half file under its name; where
 /// the disk has no room for a copy, the new file itself becomes the library. Follows a symbolic link and
@@ -74,11 +76,19 @@ SatırToplamı TümSatırlarıOku(Bağlantı& kitaplık);
 /// stands. Throws DosyaYok, DiskDolu, SaltOkunur and DiskHatası, as do all that follow.
 void DosyayıYerineKoy(const QString& yeni, const QString& kitaplık, const std::function<void()>& bildir);
 
+/// Has the system begin to write a file's bytes to the disk, so that DiskeYaz waits less.
+void DiskeYazmayaBaşla(const QString& yol);
 /// Writes a file's bytes and its folder's entry to the disk.
 void DiskeYaz(const QString& yol);
 
 /// Writes the folder's entry for this file or folder to the disk.
 void ÜstKlasörüDiskeYaz(const QString& yol);
+
+/// Has two files of a folder take each other's name, at no moment leaving one of the names empty; the first
+/// one gets the second one's owner and the owner's access rights. Their folder is not written to the disk
+/// yet.
+/// @return false where the second is a link or the file system can't do that; nothing has changed then
+bool DosyalarıDeğiştir(const QString& yeni, const QString& kitaplık);
 
 /// Takes all access rights but the owner's; a file of somebody else's stays as it is.
 void YalnızSahibineAç(const QString& yol);

@@ -72,10 +72,23 @@ std::unique_ptr<ÇalışmaGrubu> sağlamGrup(const QString& yol)
     return grup;
 }
 
+/// Whether it is what was sealed, page by page: then nothing else needs to be looked at.
+bool mühürlü(const Bağlantı& kitaplık, const std::optional<Mühür>& mühür, const SürdürmeBildirimi& bildir)
+{
+    if (!mühür)
+        return false;
+    const SayfaBulgusu sayfalar = SayfalarıDenetle(kitaplık.Yol(), KitaplıkAnahtarı(kitaplık.Tuz()),
+                                                   [&bildir] { sürmeli(sürsün(bildir)); });
+    return sayfalar.Doğru && sayfalar.Bulunan.AynıSayfalar(*mühür);
+}
+
 ÇiftDurumu kitaplığıDenetle(const QString& klasör, ÇalışmaGrubu& grup, const SürdürmeBildirimi& bildir)
 {
-    const auto kitaplık = KitaplıkBağlantısı(klasör, kip(KitaplıkYolu(klasör, DosyaAdları::Kitaplık)), grup);
+    const AçmaKipi açmaKipi = kip(KitaplıkYolu(klasör, DosyaAdları::Kitaplık));
+    const auto kitaplık = KitaplıkBağlantısı(klasör, açmaKipi, grup);
     kitaplık->SürdürmeAta([&bildir] { return sürsün(bildir); });
+    if (açmaKipi == AçmaKipi::Oku && mühürlü(*kitaplık, grup.KitaplıkMührü(), bildir))
+        return {YapıDurumu::Sağlam, kitaplık->Sayı("SELECT count(*) FROM Makaleler")};
     const YapıDurumu sayfalar = YapıyıDenetle(*kitaplık, DenetimDerinliği::Sayfalar);
     const SatırToplamı satırlar = SatırlarıOku(*kitaplık);
     const YapıDurumu durum = GenelDurum(*kitaplık, sayfalar, satırlar);

@@ -3,6 +3,7 @@
 #include "store/DosyaTanıma.h"
 #include "store/KitaplıkDosyası.h"
 #include "store/KitaplıkKlasörü.h"
+#include "store/KitaplıkMührü.h"
 #include "store/KlasörKilidi.h"
 #include "store/KurtarmaKaynağı.h"
 #include "store/MakaleKitaplığı.h"
@@ -76,9 +77,14 @@ void YeniKitaplık::Bitir(const KurtarmaKaynağı::Sürdürme& sürsünMü)
     bağlantı_.reset();
     if (DüzMetinVeritabanı(yol_))
         throw VeritabanıHatası(HataNo::İzinYok, yol_);
+    const SayfaBulgusu sayfalar = SayfalarıDenetle(yol_, anahtar_, [&sürsünMü] {
+        if (!sürsünMü())
+            throw VeritabanıHatası(HataNo::İşlemDurduruldu);
+    });
+    // What SQLite wrote stands there; the sums tell whether that is what it was given.
     const auto okunan = KitaplıkBağlantısı(yol_, anahtar_, AçmaKipi::Oku);
     okunan->SürdürmeAta(sürsünMü);
-    if (TümSatırlarıOku(*okunan) != toplam_ || DizinleriDenetle(*okunan, toplam_) != YapıDurumu::Sağlam)
+    if (!sayfalar.Doğru || DizinleriDenetle(*okunan, toplam_) != YapıDurumu::Sağlam)
         throw VeritabanıHatası(HataNo::DosyaBozuk, yol_);
     DiskeYaz(yol_);
 }

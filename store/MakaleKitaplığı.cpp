@@ -112,20 +112,28 @@ YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
         DosyayıSil(yeni);
         return motor.CompactDatabase(kitaplık, yeni, HedefYereli, dbEncrypt, KaynakYereli);
     };
-    YapıDurumu durum{};
+    SıkıştırmaSonucu sonuç{};
     // The last start's copy goes only when a new one is whole: if the library turns out to be damaged, it
     // is the last good one. Where the disk has no room for both it must make room.
     try {
-        durum = sıkıştır();
+        sonuç = sıkıştır();
     } catch (const VeritabanıHatası& hata) {
         if (hata != HataNo::DiskDolu || !QFileInfo::exists(kopya))
             throw;
         DosyayıSil(kopya);
-        durum = sıkıştır();
+        sonuç = sıkıştır();
     }
+    // Of two files with the same bytes either may be the library and the other one its copy.
+    const bool değişti = sonuç.İçi == Kopyanınki::AynıBaytlar && DosyalarıDeğiştir(yeni, kitaplık);
     DosyayıTaşı(yeni, kopya);
-    DosyayıYerineKoy(kopya, kitaplık, bildir);
-    return durum;
+    if (!değişti)
+        DosyayıYerineKoy(kopya, kitaplık, bildir);
+    return sonuç.Durum;
+}
+
+void VeritabanınıMühürle(DBEngine& motor, const QString& klasör)
+{
+    motor.SealDatabase(KitaplıkYolu(klasör, DosyaAdları::Kitaplık), KaynakYereli);
 }
 
 void KullanıcıHesabınıHazırla(const Workspace& sahip)

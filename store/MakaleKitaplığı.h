@@ -44,6 +44,9 @@ Workspace KullanıcıÇalışmaAlanı(DBEngine& motor);
 YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
                                 const DBEngine::İlerlemeBildirimi& bildir);
 
+/// For an orderly end, the library closed: see DBEngine::SealDatabase.
+void VeritabanınıMühürle(DBEngine& motor, const QString& klasör);
+
 /// Makes sure that the user account exists; it stands already where the last run ended abnormally.
 void KullanıcıHesabınıHazırla(const Workspace& sahip);
 /// Deletes the user account, which lives for one run only.

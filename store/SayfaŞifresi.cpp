@@ -1,10 +1,12 @@
 #include "store/SayfaŞifresi.h"
 
+#include <openssl/core_names.h>
 #include <openssl/evp.h>
-#include <openssl/hmac.h>
+#include <openssl/params.h>
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <new>
 
 namespace {
@@ -12,8 +14,8 @@ namespace {
 // A page: what is enciphered, the initial vector, the code over both and the page's number, bytes that mean
 // nothing. In front of the first one's stands the salt, where SQLite has a text that never changes.
 constexpr int AnahtarBoyu = 32;
-constexpr qsizetype VektörBoyu = 16, ÖzetBoyu = 20;
-constexpr qsizetype VektörYeri = SayfaBoyu - SayfaŞifresi::Ayrılan, ÖzetYeri = VektörYeri + VektörBoyu;
+constexpr qsizetype VektörBoyu = 16, VektörYeri = SayfaBoyu - SayfaŞifresi::Ayrılan;
+static_assert(SayfaKodu::Yer == VektörYeri + VektörBoyu);
 constexpr int ÖzetTuru = 2;            // of deriving the code's key from the cipher's
 constexpr char ÖzetTuzuMaskesi = 0x3a; // and what its salt differs by
 const QByteArray DüzBaş("SQLite format 3\0", TuzBoyu);
@@ -40,6 +42,48 @@ qsizetype başı(quint32 no)
 }
 
 } // namespace
+
+void SayfaKodu::Bırakıcı::operator()(evp_mac_ctx_st* bağlam) const noexcept
+{
+    EVP_MAC_CTX_free(bağlam);
+}
+
+SayfaKodu::SayfaKodu(const QByteArray& anahtar)
+{
+    const std::unique_ptr<EVP_MAC, decltype(&EVP_MAC_free)> hmac(EVP_MAC_fetch(nullptr, "HMAC", nullptr),
+                                                                 &EVP_MAC_free);
+    olmalı(hmac != nullptr);
+    bağlam_.reset(EVP_MAC_CTX_new(hmac.get()));
+    char özet[] = "SHA1"; // the call wants it writable
+    const OSSL_PARAM seçenekler[] = {OSSL_PARAM_construct_utf8_string(OSSL_MAC_PARAM_DIGEST, özet, 0),
+                                     OSSL_PARAM_construct_end()};
+    olmalı(bağlam_ && EVP_MAC_init(bağlam_.get(), baytlar(anahtar), std::size_t(anahtar.size()),
+                                   static_cast<const OSSL_PARAM*>(seçenekler)) == 1);
+}
+
+SayfaKodu::~SayfaKodu() = default;
+SayfaKodu::SayfaKodu(SayfaKodu&&) noexcept = default;
+SayfaKodu& SayfaKodu::operator=(SayfaKodu&&) noexcept = default;
+
+SayfaKodu::Değer SayfaKodu::Hesapla(const char* sayfa, quint32 no)
+{
+    const quint32 küçükten = qToLittleEndian(no);
+    Değer kod = {};
+    std::size_t boy = 0;
+    olmalı(EVP_MAC_init(bağlam_.get(), nullptr, 0, nullptr) == 1 && // with the key that it has
+           EVP_MAC_update(bağlam_.get(), reinterpret_cast<const unsigned char*>(sayfa) + başı(no),
+                          std::size_t(Yer - başı(no))) == 1 &&
+           EVP_MAC_update(bağlam_.get(), reinterpret_cast<const unsigned char*>(&küçükten),
+                          sizeof küçükten) == 1 &&
+           EVP_MAC_final(bağlam_.get(), kod.data(), &boy, kod.size()) == 1 && boy == kod.size());
+    return kod;
+}
+
+bool SayfaKodu::Doğru(const char* sayfa, quint32 no)
+{
+    const Değer kod = Hesapla(sayfa, no);
+    return std::equal(kod.begin(), kod.end(), reinterpret_cast<const unsigned char*>(sayfa) + Yer);
+}
 
 void SayfaŞifresi::Bırakıcı::operator()(evp_cipher_ctx_st* bağlam) const noexcept
 {
@@ -73,20 +117,9 @@ QByteArray SayfaŞifresi::çevir(const QByteArray& girdi, const QByteArray& baş
     return çıktı;
 }
 
-QByteArray SayfaŞifresi::özet(const QByteArray& sayfa, quint32 no) const
-{
-    QByteArray özetlenen = sayfa.mid(başı(no), ÖzetYeri - başı(no));
-    const quint32 küçükten = qToLittleEndian(no);
-    özetlenen.append(reinterpret_cast<const char*>(&küçükten), sizeof küçükten);
-    QByteArray sonuç(ÖzetBoyu, Qt::Uninitialized);
-    olmalı(HMAC(EVP_sha1(), özetAnahtarı_.constData(), AnahtarBoyu, baytlar(özetlenen),
-                std::size_t(özetlenen.size()), baytlar(sonuç), nullptr) != nullptr);
-    return sonuç;
-}
-
 bool SayfaŞifresi::Doğru(const QByteArray& sayfa, quint32 no) const
 {
-    return sayfa.size() == SayfaBoyu && sayfa.mid(ÖzetYeri, ÖzetBoyu) == özet(sayfa, no);
+    return sayfa.size() == SayfaBoyu && Kodu().Doğru(sayfa.constData(), no);
 }
 
 QByteArray SayfaŞifresi::Çöz(const QByteArray& sayfa, quint32 no) const
@@ -102,7 +135,8 @@ QByteArray SayfaŞifresi::Şifrele(const QByteArray& düz, quint32 no) const
         anahtar_.değer.mid(AnahtarBoyu).left(başı(no)) +
         çevir(düz.mid(başı(no), VektörYeri - başı(no)), düz.mid(VektörYeri, VektörBoyu), Yön::Şifreleme) +
         düz.mid(VektörYeri);
-    return sayfa.replace(ÖzetYeri, ÖzetBoyu, özet(sayfa, no));
+    const SayfaKodu::Değer kod = Kodu().Hesapla(sayfa.constData(), no);
+    return sayfa.replace(SayfaKodu::Yer, kod.size(), reinterpret_cast<const char*>(kod.data()), kod.size());
 }
 
 quint8 SayfaŞifresi::İlkBayt(const QByteArray& baş, const QByteArray& sonu) const

@@ -5,12 +5,40 @@
 
 #include <QByteArray>
 
+#include <array>
 #include <memory>
 
 struct evp_cipher_ctx_st;
+struct evp_mac_ctx_st;
 
 /// Large pages halve the cipher's work for long texts. Part of the file format.
 inline constexpr qint64 SayfaBoyu = 16384;
+
+/// The code that each page carries: over its bytes and its number. Not thread-safe: each thread has its own.
+class SayfaKodu
+{
+public:
+    explicit SayfaKodu(const QByteArray& anahtar);
+    ~SayfaKodu();
+    SayfaKodu(SayfaKodu&&) noexcept;
+    SayfaKodu& operator=(SayfaKodu&&) noexcept;
+
+    static constexpr std::size_t Boy = 20;        ///< bytes
+    static constexpr qint64 Yer = SayfaBoyu - 32; ///< within the page
+    using Değer = std::array<unsigned char, Boy>;
+
+    /// @param sayfa SayfaBoyu bytes
+    Değer Hesapla(const char* sayfa, quint32 no);
+    /// Whether the page's bytes are those that were enciphered for this number.
+    bool Doğru(const char* sayfa, quint32 no);
+
+private:
+    struct Bırakıcı
+    {
+        void operator()(evp_mac_ctx_st* bağlam) const noexcept;
+    };
+    std::unique_ptr<evp_mac_ctx_st, Bırakıcı> bağlam_;
+};
 
 /// For what can't be had from SQLCipher: to try a key on any page, to look at a page's kind, and to mend a
 /// file's first page. Pages count from 1. Holds the key while it lives.
@@ -24,6 +52,8 @@ public:
     SayfaŞifresi& operator=(SayfaŞifresi&&) noexcept;
 
     const Anahtar& Anahtarı() const { return anahtar_; }
+    /// Another one for the same key.
+    SayfaKodu Kodu() const { return SayfaKodu(özetAnahtarı_); }
     /// Whether the page's bytes are those that were enciphered with this key for this number.
     bool Doğru(const QByteArray& sayfa, quint32 no) const;
     /// The page as SQLite sees it, but for the reserved bytes at its end, which stay enciphered.
@@ -49,8 +79,6 @@ private:
     };
 
     QByteArray çevir(const QByteArray& baytlar, const QByteArray& başlangıç, Yön yön) const;
-    QByteArray özet(const QByteArray& sayfa, quint32 no) const;
-
     Anahtar anahtar_;
     QByteArray özetAnahtarı_;
     std::unique_ptr<evp_cipher_ctx_st, Bırakıcı> bağlam_;

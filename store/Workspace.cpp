@@ -53,6 +53,8 @@ Database Workspace::OpenDatabase(const QString& yol, bool tekBaşına, bool salt
         bağlantı->Çalıştır("BEGIN EXCLUSIVE");
         bağlantı->Çalıştır("COMMIT");
     }
+    if (!saltOku)
+        bağlantı->İlkYazmadaÇağır([grup = grup_] { grup->MührüKır(); });
     return Database(std::move(bağlantı));
 }
 

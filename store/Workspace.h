@@ -49,9 +49,9 @@ public:
     /// An account yet to be given to Users().Append.
     User CreateUser(const QString& ad) const { return User(ad); }
 
-    /// Opens a library. Throws ParolaYanlış for a wrong password, DosyaKullanımda when it can't be opened
-    /// alone though that was asked for, KitaplıkDeğil or SürümYeni when it is no library or a later
-    /// program's, and what Bağlantı's constructor throws.
+    /// Opens a library; the first change in it breaks its seal. Throws ParolaYanlış for a wrong password,
+    /// DosyaKullanımda when it can't be opened alone though that was asked for, KitaplıkDeğil or SürümYeni
+    /// when it is no library or a later program's, and what Bağlantı's constructor throws.
     /// @param bağlantıMetni ";PWD=..." with the keyword in any letter case
     Database OpenDatabase(const QString& yol, bool tekBaşına, bool saltOku,
                           const QString& bağlantıMetni) const;
@@ -61,6 +61,6 @@ public:
 private:
     ÇalışmaGrubu& grup() const;
 
-    std::unique_ptr<ÇalışmaGrubu> grup_;
+    std::shared_ptr<ÇalışmaGrubu> grup_; // libraries opened from here know it, too
     QString ad_, kullanıcı_;
 };

@@ -114,9 +114,14 @@ QByteArray ÇalışmaGrubu::KitaplıkKimliği()
     return deyim.Adım() ? baytlar(deyim, 0) : QByteArray();
 }
 
+bool ÇalışmaGrubu::tabloVar(const char* ad)
+{
+    return bağlantı_.Sayı(QByteArray("SELECT count(*) FROM sqlite_master WHERE name='") + ad + "'") != 0;
+}
+
 QByteArray ÇalışmaGrubu::KitaplıkTuzu()
 {
-    if (bağlantı_.Sayı("SELECT count(*) FROM sqlite_master WHERE name='KitaplikTuzu'") == 0)
+    if (!tabloVar("KitaplikTuzu"))
         return {};
     Deyim deyim(bağlantı_, "SELECT Tuz FROM KitaplikTuzu");
     return deyim.Adım() ? baytlar(deyim, 0) : QByteArray();
@@ -128,6 +133,43 @@ void ÇalışmaGrubu::KitaplıkTuzu(const QByteArray& tuz)
         return;
     İşlem işlem(bağlantı_);
     tuzYaz(bağlantı_, tuz);
+    işlem.Onayla();
+}
+
+std::optional<Mühür> ÇalışmaGrubu::KitaplıkMührü()
+{
+    if (!tabloVar("KitaplikMuhru"))
+        return {};
+    Deyim deyim(bağlantı_, "SELECT Kimlik, Ozet, Siralama, Siki FROM KitaplikMuhru");
+    if (!deyim.Adım())
+        return {};
+    return Mühür{baytlar(deyim, 0), baytlar(deyim, 1), baytlar(deyim, 2),
+                 deyim.Sayı(3) != 0 ? Sıkılık::Sıkı : Sıkılık::Değişmiş};
+}
+
+void ÇalışmaGrubu::Mühürle(const Mühür& mühür)
+{
+    if (KitaplıkMührü() == mühür)
+        return;
+    İşlem işlem(bağlantı_);
+    bağlantı_.Çalıştır("CREATE TABLE IF NOT EXISTS KitaplikMuhru(Kimlik BLOB NOT NULL, Ozet BLOB NOT NULL,"
+                       " Siralama BLOB NOT NULL, Siki INTEGER NOT NULL)");
+    bağlantı_.Çalıştır("DELETE FROM KitaplikMuhru");
+    Deyim(bağlantı_, "INSERT INTO KitaplikMuhru(Kimlik, Ozet, Siralama, Siki) VALUES(?1, ?2, ?3, ?4)")
+        .Bağla(1, mühür.Kimlik)
+        .Bağla(2, mühür.Özet)
+        .Bağla(3, mühür.Sıralama)
+        .Bağla(4, mühür.Hali == Sıkılık::Sıkı ? 1 : 0)
+        .Çalıştır();
+    işlem.Onayla();
+}
+
+void ÇalışmaGrubu::MührüKır()
+{
+    if (!KitaplıkMührü())
+        return;
+    İşlem işlem(bağlantı_);
+    bağlantı_.Çalıştır("DELETE FROM KitaplikMuhru");
     işlem.Onayla();
 }
 

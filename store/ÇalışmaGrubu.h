@@ -2,9 +2,11 @@
 #pragma once
 
 #include "store/Bağlantı.h"
+#include "store/KitaplıkMührü.h"
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 class User;
@@ -33,10 +35,17 @@ public:
     QByteArray KitaplıkTuzu();
     void KitaplıkTuzu(const QByteArray& tuz); ///< writes it down unless it is there already
 
+    /// Nothing while the library is being changed, and where nobody has sealed it since.
+    std::optional<Mühür> KitaplıkMührü();
+    void Mühürle(const Mühür& mühür); ///< writes it down unless it is there already
+    void MührüKır();                  ///< to be called before the library is changed
+
     std::vector<User> Hesaplar();
     void Ekle(const User& hesap); ///< throws HesapVar when the name is taken
     void Sil(const QString& ad);  ///< throws ÖğeYok for an unknown name
 
 private:
+    bool tabloVar(const char* ad);
+
     Bağlantı bağlantı_;
 };

@@ -58,6 +58,16 @@ QString UzunMetin(int tohum, qsizetype boy)
     return metin;
 }
 
+QList<Makale> ÖrnekMakaleler()
+{
+    QList<Makale> makaleler;
+    for (int i = 0; i < 200; ++i)
+        makaleler.append({QStringLiteral("YAZAR %1").arg(i % 7), QStringLiteral("BAŞLIK %1").arg(i),
+                          UzunMetin(i, i % 20 ? 10 * i : 30'000), QStringLiteral("Rize"),
+                          QStringLiteral("1999")});
+    return makaleler;
+}
+
 QByteArray DosyaOku(const QString& yol)
 {
     QFile dosya(yol);

@@ -44,6 +44,8 @@ QList<Makale> Makaleler(const Database& veritabanı);
 int HataNumarası(const std::function<void()>& iş);
 /// A text of that many random letters.
 QString UzunMetin(int tohum, qsizetype boy);
+/// 200 articles, some 40 pages; every twentieth has pages of its own.
+QList<Makale> ÖrnekMakaleler();
 QByteArray DosyaOku(const QString& yol);
 void DosyaYaz(const QString& yol, const QByteArray& baytlar);
 /// Every file of the folder with its bytes.

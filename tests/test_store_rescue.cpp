@@ -16,14 +16,6 @@ class TestStoreRescue : public QObject
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> geçici_;
 
-    static QList<Makale> örnekler()
-    {
-        QList<Makale> makaleler;
-        for (int i = 0; i < 200; ++i) // some 70 pages; every twentieth has pages of its own
-            makaleler.append({u"YAZAR %1"_s.arg(i % 7), u"BAŞLIK %1"_s.arg(i),
-                              UzunMetin(i, i % 20 ? 10 * i : 30'000), u"Rize"_s, u"1999"_s});
-        return makaleler;
-    }
     /// On how many pages an article's bytes stand, by SQLite's file format: one of the table, and what
     /// doesn't fit there on pages of its own.
     static qint64 sayfaSayısı(const Makale& makale)
@@ -53,7 +45,7 @@ class TestStoreRescue : public QObject
 private slots:
     void everyPage()
     {
-        const QList<Makale> makaleler = örnekler();
+        const QList<Makale> makaleler = ÖrnekMakaleler();
         const DenemeKitaplığı kitaplık(makaleler);
         const QString mde = kitaplık.Klasör() + u"Makale.mde"_s;
         const QByteArray sağlam = DosyaOku(mde);
@@ -100,7 +92,7 @@ private slots:
     void otherDamage()
     {
         QFETCH(const QString, olay);
-        const QList<Makale> makaleler = örnekler().mid(0, 60);
+        const QList<Makale> makaleler = ÖrnekMakaleler().mid(0, 60);
         const DenemeKitaplığı kitaplık(makaleler);
         const QString mde = kitaplık.Klasör() + u"Makale.mde"_s;
         QList<Makale> beklenen = makaleler;

@@ -35,3 +35,10 @@ int TürkçeKarşılaştır(std::string_view a, std::string_view b) noexcept
     return ucol_strcollUTF8(sıralayıcı(), a.data(), static_cast<int32_t>(a.size()), b.data(),
                             static_cast<int32_t>(b.size()), &durum);
 }
+
+std::string SıralamaSürümü()
+{
+    UVersionInfo sürüm = {};
+    ucol_getVersion(sıralayıcı(), sürüm);
+    return {sürüm, sürüm + U_MAX_VERSION_LENGTH};
+}

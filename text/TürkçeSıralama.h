@@ -1,6 +1,7 @@
 // The order and equality of authors and titles: Turkish alphabet, without regard to case.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 /// Negative, zero or positive as the first UTF-8 text comes before, is equal to or comes after the
@@ -8,3 +9,6 @@
 /// ı and i are different letters. Malformed UTF-8 compares as U+FFFD. Terminates the program when ICU
 /// has no collation at all, since nothing could be ordered then.
 int TürkçeKarşılaştır(std::string_view a, std::string_view b) noexcept;
+
+/// Which version of the order it is: what was sorted by another one may have to be sorted anew.
+std::string SıralamaSürümü();
