@@ -11,6 +11,8 @@
 namespace {
 
 constexpr int AmaçlıMakaleSayısı = 10'000; // below it starting a process is most of the time
+// A smaller one is copied in the time that a process takes to start and to derive a key.
+constexpr int BüyükMakaleSayısı = 100'000;
 constexpr int Tekrar = 5;
 constexpr qint64 BozulanYer = 1'000'003; // a byte in the midst of the file
 
@@ -56,9 +58,9 @@ QString kitaplıkYolu()
     return KitaplıkYolu(ProgramKlasörü, DosyaAdları::Kitaplık);
 }
 
-std::optional<Amaç> amaç(const KapalıOrtam& ortam, double oran)
+std::optional<Amaç> amaç(const KapalıOrtam& ortam, double oran, int enAz = AmaçlıMakaleSayısı)
 {
-    if (ortam.Kitaplık.MakaleSayısı() < AmaçlıMakaleSayısı)
+    if (ortam.Kitaplık.MakaleSayısı() < enAz)
         return {};
     return Amaç{Amaç::Tür::Oran, oran};
 }
@@ -107,7 +109,8 @@ void yedeğiÖlç(const KapalıOrtam& ortam, const ÇalışmaKlasörü& klasör)
                          },
                          QStringLiteral("dosyayı kopyalayıp diske yazma"),
                          [&] { DosyayıKopyala(kitaplıkYolu(), klasör / QStringLiteral("kopya")); }, Tekrar,
-                         amaç(ortam, 2.5), [&] { klasör.Boşalt(); }, [&] { klasör.Boşalt(); }});
+                         amaç(ortam, 2.5, BüyükMakaleSayısı), [&] { klasör.Boşalt(); },
+                         [&] { klasör.Boşalt(); }});
 }
 
 void kurtarmayıÖlç(const KapalıOrtam& ortam, const ÇalışmaKlasörü& klasör)
@@ -128,7 +131,7 @@ void kurtarmayıÖlç(const KapalıOrtam& ortam, const ÇalışmaKlasörü& klas
                          },
                          QStringLiteral("dosyayı kopyalayıp diske yazma"),
                          [&] { DosyayıKopyala(kitaplıkYolu(), klasör / QStringLiteral("kopya")); }, Tekrar,
-                         amaç(ortam, 6), bozukKitaplık, [&] { klasör.Boşalt(); }});
+                         amaç(ortam, 6, BüyükMakaleSayısı), bozukKitaplık, [&] { klasör.Boşalt(); }});
 }
 
 void aramayıÖlç(const KapalıOrtam& ortam)
