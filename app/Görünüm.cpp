@@ -94,6 +94,14 @@ QColor OkunurTon(const QColor& renk, const QColor& zemin)
     return ton;
 }
 
+QColor OkunurAltlık(const QColor& yazı, const QColor& zemin)
+{
+    if (karşıtlık(yazı, zemin) >= EnAzKarşıtlık)
+        return {};
+    const QColor siyah(Qt::black), beyaz(Qt::white);
+    return karşıtlık(yazı, siyah) > karşıtlık(yazı, beyaz) ? siyah : beyaz;
+}
+
 void ZeminVer(QWidget& kontrol, const QColor& zemin)
 {
     QPalette palet = kontrol.palette();

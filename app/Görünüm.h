@@ -28,6 +28,10 @@ QColor OkunurYazıRengi(const QColor& zemin);
 /// it need to be read.
 QColor OkunurTon(const QColor& renk, const QColor& zemin);
 
+/// What to lay under letters whose colour must stay, where they can't be read on the background; no valid
+/// colour where they can.
+QColor OkunurAltlık(const QColor& yazı, const QColor& zemin);
+
 /// Gives a field a background, and letters in black or white, whichever reads better on it.
 void ZeminVer(QWidget& kontrol, const QColor& zemin);
 

@@ -131,9 +131,19 @@ void ZenginMetinKutusu::İşaretle(const QList<qsizetype>& yerler, qsizetype uzu
     if (yerler.isEmpty())
         return;
     QTextCharFormat işaret;
-    işaret.setForeground(EkranRengi(İşaretRengi, palette()));
+    const QColor renk = EkranRengi(İşaretRengi, palette());
+    işaret.setForeground(renk);
     işaret.setFontWeight(QFont::Bold);
     BelgedeBiçimle(*document(), yerler, uzunluk, işaret);
+    if (const QColor altlık = OkunurAltlık(renk, palette().color(QPalette::Base)); altlık.isValid()) {
+        QTextCharFormat zemin;
+        zemin.setBackground(altlık);
+        QList<qsizetype> harfler =
+            yerler; // without the blank that each begins with: a ground under it joins words
+        for (qsizetype& yer : harfler)
+            ++yer;
+        BelgedeBiçimle(*document(), harfler, uzunluk - 1, zemin);
+    }
 
     // The caret ends at the last one; the reader begins at the first.
     const int önce = verticalScrollBar()->value();

@@ -126,7 +126,7 @@ private:
     void sonuçlarıGöster(Recordset& kayıtlar);
     void sonuçYok();
     /// Marks the word wherever it stands between two blanks. @return whether it was found
-    bool sözcüğüİşaretle();
+    qsizetype sözcüğüİşaretle();
     void yazarıGöster(const QString& yazar);
     void bulmaEtiketi(const QString& yazı);
     void bulmaDüğmeleri(bool açık);

@@ -5,6 +5,7 @@
 #include "app/Metinler.h"
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/İletiKutusu.h"
+#include "controls/Duyuru.h"
 #include "controls/TuşSüzgeci.h"
 #include "system/OrtakApilerModülü.h"
 #include "text/TürkçeArama.h"
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr int EnKısaSözcük = 2;
+const QString İşaretlendiMetni = QStringLiteral("%1 yer işaretlendi");
 
 } // namespace
 
@@ -134,19 +136,20 @@ void AnaForm::BulButonu_Click()
         }
         if (!sözcükYeterli())
             return;
-        const bool bulundu = sözcüğüİşaretle();
+        const qsizetype işaretlenen = sözcüğüİşaretle();
         MakaleMetniKutusu.SelStart(MakaleMetniKutusu.SelStart() + 1);
-        if (bulundu)
-            return;
+        if (işaretlenen > 0)
+            return Duyur(İşaretlendiMetni.arg(işaretlenen));
         İletiGöster(Metin(İleti::SözcükMetindeYok), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
         BulKutusu.setFocus();
     });
 }
 
-bool AnaForm::sözcüğüİşaretle()
+/// @return how many places
+qsizetype AnaForm::sözcüğüİşaretle()
 {
     if (!sözcükYeterli())
-        return false;
+        return 0;
     // The library's texts are in normal form C; a pasted word need not be.
     const QString sözcük = BulKutusu.Text().normalized(QString::NormalizationForm_C);
     const MetinArayıcı arayıcı(MakaleMetniKutusu.Text(), u' ' + sözcük + u' ');
@@ -154,7 +157,7 @@ bool AnaForm::sözcüğüİşaretle()
     while ((AramaKonumu = arayıcı.Sonraki(AramaKonumu)) != 0)
         yerler.append(AramaKonumu - 1);
     MakaleMetniKutusu.İşaretle(yerler, sözcük.size() + 1); // the blank before it, but not the one behind
-    return !yerler.isEmpty();
+    return yerler.size();
 }
 
 void AnaForm::TemizleButonu_Click()
@@ -207,6 +210,7 @@ void AnaForm::tümündeBul()
     else
         sonuçlarıGöster(kayıtlar);
     ÇıkışButonu.setEnabled(true);
+    Duyur(Etiket[5].text());
 }
 
 void AnaForm::sonuçYok()

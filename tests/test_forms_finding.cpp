@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTextBlock>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -204,6 +206,68 @@ private slots:
         QVERIFY(ended && !Veritabanı && !QApplication::overrideCursor());
     }
 
+    /// What a screen reader is told, of the control that has the focus then.
+    void announced()
+    {
+        const auto told = [] { return QApplication::focusWidget()->accessibleDescription(); };
+        t->Yazarlar().ListIndex(0);
+        t->Makaleler().ListIndex(2);
+        word().setFocus();
+        word().Text(u"deniz"_s);
+        press(u"BulButonu"_s);
+        QCOMPARE(told(), u"1 yer işaretlendi"_s);
+        press(u"TümündeBulButonu"_s);
+        QCOMPARE(QApplication::focusWidget(), &t->Makaleler());
+        QCOMPARE(told(), u"2 makale bulundu!"_s);
+        seekAll(u"xyzt"_s);
+        QCOMPARE(told(), u"makale bulunamadı!"_s);
+    }
+
+    /// The contrast that WCAG 2.1 asks for, by its formula, on all six backgrounds and in a dark theme.
+    void contrast_data()
+    {
+        QTest::addColumn<int>("background");
+        QTest::addColumn<QColor>("face");
+        for (int i = 0; i < 6; ++i) {
+            QTest::addRow("%d, light", i) << i << QColor(0xef, 0xef, 0xef);
+            QTest::addRow("%d, dark", i) << i << QColor(0x31, 0x36, 0x3b);
+        }
+    }
+    void contrast()
+    {
+        QFETCH(int, background);
+        QFETCH(QColor, face);
+        const auto luminance = [](const QColor& colour) {
+            const auto linear = [](double c) {
+                return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+            };
+            return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+                   0.0722 * linear(colour.blueF());
+        };
+        ZenginMetinKutusu pane;
+        QPalette palette = pane.palette();
+        palette.setColor(QPalette::Button, face);
+        pane.setPalette(palette);
+        pane.BackColor(ZeminRengi(qint16(background)));
+        pane.Text(u"bir deniz var"_s);
+        pane.İşaretle({3}, 6);
+        QTextCursor cursor(pane.document());
+        cursor.setPosition(6);
+        const QTextCharFormat mark = cursor.charFormat();
+        QCOMPARE(mark.foreground().color(), QColor(Qt::red));
+        const QColor paper = pane.palette().color(QPalette::Base);
+        const QColor ground = mark.background().style() == Qt::NoBrush ? paper : mark.background().color();
+        const auto ratio = [&](const QColor& one, const QColor& two) {
+            const auto [dark, light] = std::minmax({luminance(one), luminance(two)});
+            return (light + 0.05) / (dark + 0.05);
+        };
+        qInfo("%s: red alone %.2f, on its ground %.2f", qPrintable(paper.name()), ratio(Qt::red, paper),
+              ratio(Qt::red, ground));
+        QVERIFY(ratio(Qt::red, ground) >= 4.5);
+        cursor.setPosition(12);
+        QCOMPARE(cursor.charFormat().background().style(), Qt::NoBrush);
+    }
+
 private:
     MetinKutusu& box(const QString& name) { return t->Bul<MetinKutusu>(name); }
     MetinKutusu& word() { return box(u"BulKutusu"_s); }
@@ -221,11 +285,18 @@ private:
     QStringList marked()
     {
         QStringList found;
+        int end = -1; // of the one before: its blank has no ground, and is a part of its own
         for (QTextBlock block = t->Metin().document()->begin(); block.isValid(); block = block.next()) {
             for (auto part = block.begin(); !part.atEnd(); ++part) {
                 const QTextCharFormat format = part.fragment().charFormat();
-                if (format.foreground().color() == QColor(Qt::red) && format.fontWeight() == QFont::Bold)
-                    found.append(part.fragment().text());
+                if (format.foreground().color() != QColor(Qt::red) || format.fontWeight() != QFont::Bold)
+                    continue;
+                const QTextFragment fragment = part.fragment();
+                if (fragment.position() == end)
+                    found.last() += fragment.text();
+                else
+                    found.append(fragment.text());
+                end = fragment.position() + fragment.length();
             }
         }
         return found;
