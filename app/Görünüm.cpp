@@ -21,6 +21,7 @@ constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00,
 constexpr Renk SistemRengi = 0x80000000;
 double formYazıBoyutu = OlağanYazıBoyutu;
 constexpr double EnAzKarşıtlık = 4.5; // WCAG 2.1, success criterion 1.4.3
+constexpr float SönükYazı = 0.65F;    // opacity: black on white then has a contrast of 7
 
 template<class Tablo> auto tablodan(const Tablo& tablo, qint16 sıra)
 {
@@ -106,7 +107,10 @@ void ZeminVer(QWidget& kontrol, const QColor& zemin)
 {
     QPalette palet = kontrol.palette();
     palet.setColor(QPalette::Base, zemin);
-    palet.setColor(QPalette::Text, OkunurYazıRengi(zemin));
+    QColor yazı = OkunurYazıRengi(zemin);
+    palet.setColor(QPalette::Text, yazı);
+    yazı.setAlphaF(SönükYazı);
+    palet.setColor(QPalette::PlaceholderText, yazı);
     kontrol.setPalette(palet);
 }
 

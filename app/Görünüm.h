@@ -32,7 +32,7 @@ QColor OkunurTon(const QColor& renk, const QColor& zemin);
 /// colour where they can.
 QColor OkunurAltlık(const QColor& yazı, const QColor& zemin);
 
-/// Gives a field a background, and letters in black or white, whichever reads better on it.
+/// Gives a field a background, and letters in black or white, whichever reads better on it; hints fainter.
 void ZeminVer(QWidget& kontrol, const QColor& zemin);
 
 /// The size (points) of the windows' own letters that their measures are made for.

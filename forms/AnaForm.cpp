@@ -26,6 +26,13 @@ constexpr int OlağanYükseklik = 9000;
 constexpr double EnUzakKonum = 1000000; // twips; what a stored position may be at most
 constexpr double TamEkranDeğeri = 2;
 
+const QString BaşlangıçMetni = QStringLiteral(
+    "Kitaplıkta henüz makale yok.\n\n"
+    "İlk makaleyi Makale menüsündeki “Listeye Makale Ekle...” ile ekleyin. Metnini yazabilir, panodan "
+    "yapıştırabilir ya da bir metin veya RTF dosyasından yükleyebilirsiniz.\n\n"
+    "Elinizde klasörler dolusu belge varsa programı kapatıp hepsini bir kerede alın:\n"
+    "belgenar-kitaplik aktar PROGRAM_KLASÖRÜ BELGE_KLASÖRÜ");
+
 } // namespace
 
 AnaForm::AnaForm() : yüzey_(new QWidget(this))
@@ -235,11 +242,19 @@ void AnaForm::YazarListesiYükle()
 {
     const QStringList yazarlar = SütunuOku(
         QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler] ORDER BY [YazarAdi] ASC"), u"YazarAdi");
+    boşKitaplığıAnlat(yazarlar.isEmpty());
     if (yazarlar.isEmpty())
         return;
     YazarListesi.Clear();
     YazarListesi.AddItems(yazarlar);
     yazarToplamınıYaz();
+}
+
+/// Nothing else in the window says how to begin.
+void AnaForm::boşKitaplığıAnlat(bool boş)
+{
+    MakaleMetniKutusu.setPlaceholderText(boş ? BaşlangıçMetni : QString());
+    MakaleMetniKutusu.setAccessibleDescription(MakaleMetniKutusu.placeholderText());
 }
 
 void AnaForm::sonYazarıSeç()

@@ -95,6 +95,7 @@ private:
     void başlıklarıKoy();
     void pencereDurumunuOku();
     void görünümAyarlarınıOku();
+    void boşKitaplığıAnlat(bool boş);
     void sonYazarıSeç();
     void YazarListesi_Click();
     void MakaleListesi_Click();

@@ -9,12 +9,17 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int SimgeBoyu = 1920; // twips
 constexpr int KenarBoşluğu = 360;
 constexpr int EnAzGenişlik = 4200;
-constexpr int AdBoyu = 20; // points
+constexpr int AdBoyu = 20;        // points
+constexpr qint64 UzunSüre = 1000; // ms
+
+const QString İlerlemeMetni = QStringLiteral("Kitaplık hazırlanıyor: %%1");
 
 } // namespace
 
@@ -34,14 +39,26 @@ KarşılamaFormu::KarşılamaFormu() : QWidget(nullptr, Qt::SplashScreen | Qt::F
     SürümEtiketi.setObjectName(QStringLiteral("SürümEtiketi"));
     SürümEtiketi.setText(SürümYazısı());
 
+    İlerlemeEtiketi.setObjectName(QStringLiteral("İlerlemeEtiketi"));
+    İlerlemeEtiketi.setText(QStringLiteral(" ")); // its line is kept free
+
     auto* düzen = new QVBoxLayout(this);
     const int boşluk = FormPikseli(KenarBoşluğu);
     düzen->setContentsMargins(boşluk, boşluk, boşluk, boşluk);
-    for (QLabel* etiket : {&SimgeKutusu, &AdEtiketi, &SürümEtiketi}) {
+    for (QLabel* etiket : {&SimgeKutusu, &AdEtiketi, &SürümEtiketi, &İlerlemeEtiketi}) {
         etiket->setAlignment(Qt::AlignCenter);
         düzen->addWidget(etiket);
     }
     setMinimumWidth(FormPikseli(EnAzGenişlik));
     adjustSize();
     move(OrtalıYer(screen()->geometry(), size()));
+}
+
+void KarşılamaFormu::İlerle(double oran)
+{
+    if (!süre_.isValid())
+        süre_.start();
+    yüzde_ = std::max(yüzde_, int(100 * oran));
+    if (süre_.hasExpired(UzunSüre))
+        İlerlemeEtiketi.setText(İlerlemeMetni.arg(yüzde_));
 }

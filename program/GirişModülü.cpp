@@ -16,11 +16,14 @@
 #include "system/KapatmaSinyalleri.h"
 #include "system/OrtakApilerModülü.h"
 #include "system/TekÖrnek.h"
+#include "text/TürkçeHarfler.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QScopeGuard>
 #include <QSessionManager>
 
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -55,13 +58,33 @@ void yolGeçerliOlmalı()
         throw VeritabanıHatası(HataNo::YolGeçersiz, QString::fromUtf8(yol.data(), qsizetype(yol.size())));
 }
 
+/// What in the folder tells why the file isn't there; the refusal itself has a fixed text.
+void yokluğuYaz(QStringView ad)
+{
+    std::fprintf(stderr, "belgenar: %s: %s yok.\n", qUtf8Printable(ProgramKlasörü),
+                 qUtf8Printable(ad.toString()));
+    const QStringList dosyalar =
+        QDir(ProgramKlasörü).entryList({QStringLiteral("?akale.*")}, QDir::Files | QDir::Hidden);
+    for (const QString& dosya : dosyalar) {
+        const bool benzer = Katla(dosya) == Katla(ad.toString());
+        std::fprintf(stderr, "belgenar: klasörde %s var%s\n", qUtf8Printable(dosya),
+                     benzer ? "; adın büyük ve küçük harfleri de aynı olmalı." : ".");
+    }
+}
+
+void dosyaOlmalı(QStringView ad, İleti yokluğu)
+{
+    if (DosyaVar(KitaplıkYolu(ProgramKlasörü, ad)))
+        return;
+    yokluğuYaz(ad);
+    reddet(yokluğu);
+}
+
 void dosyalarıDenetle()
 {
     yolGeçerliOlmalı();
-    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Kitaplık)))
-        reddet(İleti::VeritabanıYok);
-    if (!DosyaVar(KitaplıkYolu(ProgramKlasörü, DosyaAdları::Grup)))
-        reddet(İleti::GerekliDosyaYok);
+    dosyaOlmalı(DosyaAdları::Kitaplık, İleti::VeritabanıYok);
+    dosyaOlmalı(DosyaAdları::Grup, İleti::GerekliDosyaYok);
 }
 
 /// What a second start brings forward while there is no main window: the box that waits for the user.
@@ -110,7 +133,10 @@ int SubMain(QApplication& uygulama)
         PencereleriBoya();
         sürümüDenetle();
         dosyalarıDenetle();
-        AçıkOturum.Aç(ProgramKlasörü, &PencereleriBoya);
+        AçıkOturum.Aç(ProgramKlasörü, [&karşılama] {
+            karşılama->İlerle(SıkıştırmaOranı(ProgramKlasörü));
+            PencereleriBoya();
+        });
         EskiBelgeleriSil();
 
         AnaForm form;

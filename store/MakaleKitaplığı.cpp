@@ -131,6 +131,18 @@ YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
     return sonuç.Durum;
 }
 
+double SıkıştırmaOranı(const QString& klasör)
+{
+    const QString kitaplık = KitaplıkYolu(klasör, DosyaAdları::Kitaplık);
+    const auto pay = [boy = double(QFileInfo(kitaplık).size())](const QString& yol) {
+        const QFileInfo dosya(yol);
+        return dosya.exists() && boy > 0 ? std::min(double(dosya.size()) / boy, 1.0) / 2 : 0.0;
+    };
+    const QString yerineGelen = QFileInfo(kitaplık).canonicalFilePath() + u'~';
+    return QFileInfo::exists(yerineGelen) ? 0.5 + pay(yerineGelen)
+                                          : pay(KitaplıkYolu(klasör, DosyaAdları::Kopya) + u'~');
+}
+
 void VeritabanınıMühürle(DBEngine& motor, const QString& klasör)
 {
     motor.SealDatabase(KitaplıkYolu(klasör, DosyaAdları::Kitaplık), KaynakYereli);

@@ -44,6 +44,10 @@ Workspace KullanıcıÇalışmaAlanı(DBEngine& motor);
 YapıDurumu VeritabanınıSıkıştır(DBEngine& motor, const QString& klasör,
                                 const DBEngine::İlerlemeBildirimi& bildir);
 
+/// How far VeritabanınıSıkıştır has come, from 0 to 1, by the sizes of what it has written so far; for its
+/// bildir.
+double SıkıştırmaOranı(const QString& klasör);
+
 /// For an orderly end, the library closed: see DBEngine::SealDatabase.
 void VeritabanınıMühürle(DBEngine& motor, const QString& klasör);
 
