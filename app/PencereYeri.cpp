@@ -118,6 +118,13 @@ private:
     bool koyuyor_ = false;
 };
 
+/// Has the system keep the window over the one that is up: under Wayland no program can put its windows anywhere.
+void yakınınınYap(const QWidget& pencere)
+{
+    if (const QWidget* yakını = QApplication::activeWindow(); yakını && pencere.windowHandle())
+        pencere.windowHandle()->setTransientParent(yakını->windowHandle());
+}
+
 QPoint içeride(const QPoint& yer, const QSize& boy, const QRect& alan)
 {
     const auto eksende = [](int konum, int uzunluk, int baş, int boyut) {
@@ -159,6 +166,8 @@ bool PencereYerleştirici::eventFilter(QObject* nesne, QEvent* olay)
             QScreen& ekran = ekranı(*pencere);
             pencere->setScreen(&ekran);
             const QWidget* sahip = pencere->parentWidget();
+            if (!sahip && QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+                yakınınınYap(*pencere);
             const QRect üst = sahip ? ÇerçeveliYer(*sahip->window()) : ekran.geometry();
             PencereyiKoy(*pencere, [üst, alan = ekran.availableVirtualGeometry()](const QSize& boy) {
                 return içeride(OrtalıYer(üst, boy), boy, alan);

@@ -10,9 +10,9 @@ RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation x11-utils"
 VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
 # A print service with a printer that writes PDF (cups-*, poppler-utils); the public validators of the desktop
 # entry (desktop-file-utils), its metadata (appstream) and the manual page (mandoc); GLib's launcher, which
-# reads the entry as desktops do (libglib2.0-bin).
+# reads the entry as desktops do (libglib2.0-bin); a Wayland compositor (weston), and the toolkit's part for it.
 TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES xclip cups-daemon cups-client cups-filters poppler-utils
-    desktop-file-utils appstream mandoc libglib2.0-bin"
+    desktop-file-utils appstream mandoc libglib2.0-bin weston qt6-wayland"
 # The linters are Debian 12's: others find and format otherwise.
 LINT_PACKAGES="clang-format-14 clang-tidy-16 shellcheck"
 
