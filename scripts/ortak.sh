@@ -85,11 +85,11 @@ eventually() {
     done
 }
 
-# Starts a virtual screen with a window manager; sets DISPLAY. Ends both when the shell exits.
+# start_virtual_display [SIZE]: starts a virtual screen with a window manager; sets DISPLAY. Ends both when the shell exits.
 start_virtual_display() {
     local number_file
     number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${1-1280x900}x24" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
     VIRTUAL_PIDS="$!"
     trap 'stop_virtual_display' EXIT
     eventually test -s "$number_file" || die "Xvfb başlamadı."

@@ -139,7 +139,7 @@ void geriAl(const QString& yol, const QString& kopya)
     // are, before the first one is deciphered.
     const Anahtar herhangi = {AnahtarTürü::HamAnahtar, QByteArray(32 + TuzBoyu, '\1')};
     ümitVarsa([&] {
-        Bağlantı(kopya, herhangi, AçmaKipi::OkuYaz);
+        const Bağlantı geriAlan(kopya, herhangi, AçmaKipi::OkuYaz);
         return false;
     });
     DosyayıSil(GünlükYolu(kopya));
