@@ -217,6 +217,18 @@ void KitaplıkKlasörünüSil(const QString& klasör)
         SistemHatasıVer(errno, Erişim::Yazma, klasör);
 }
 
+void KlasörYapılabilmeli(const QString& yol)
+{
+    QString var = QDir(yol).absolutePath();
+    while (!Var(var))
+        var = QFileInfo(var).path();
+    if (!QFileInfo(var).isDir())
+        throw VeritabanıHatası(HataNo::DosyaVar, var);
+    errno = 0;
+    if (access(QFile::encodeName(var).constData(), W_OK | X_OK) != 0)
+        SistemHatasıVer(errno, Erişim::Yazma, var);
+}
+
 YeniKlasör::YeniKlasör(const QString& yol)
 {
     QStringList eksikler;

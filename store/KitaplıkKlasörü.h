@@ -48,6 +48,10 @@ bool YalnızKitaplıkVar(const QString& klasör);
 /// is in it. No matter if there is none.
 void KitaplıkKlasörünüSil(const QString& klasör);
 
+/// Throws where YeniKlasör could not make the folder, or it is one into which nothing can be written. For
+/// saying beforehand what a command would do.
+void KlasörYapılabilmeli(const QString& yol);
+
 /// A folder that is there while this lives: it and the folders above it are made where they are missing, for
 /// their owner only, and those that were made are taken away again, empty ones only, unless they were kept.
 class YeniKlasör

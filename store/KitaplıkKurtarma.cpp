@@ -280,6 +280,7 @@ KurtarmaSonucu KitaplığıKurtar(const QString& klasör, const QString& yeniKla
     if (QFileInfo(yeniKlasör).exists() && QFileInfo(yeniKlasör) == QFileInfo(klasör))
         throw VeritabanıHatası(HataNo::DosyaVar, yeniKlasör);
     KitaplıkKurulabilmeli(yeniKlasör);
+    KlasörYapılabilmeli(yeniKlasör);
     std::optional<KurtarmaKlasörü> yeni;
     if (kip == KurtarmaKipi::Kur)
         yeni.emplace(yeniKlasör);

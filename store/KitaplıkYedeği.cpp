@@ -23,6 +23,8 @@ const QString YarımAdı = QStringLiteral(".Belgenar-yarim"), SilinenAdı = QStr
 const QString SilinemediMetni = QStringLiteral("Eski yedek silinemedi: %1 %2");
 const QString YabancıDosyaMetni =
     QStringLiteral("Eski yedek silinmedi; içinde kitaplığa ait olmayan dosyalar var: %1");
+const QString KiminBelliDeğilMetni =
+    QStringLiteral("Hangi kitaplığın olduğu okunamayan yedek var: %1. Sayıya katılmadı, silinmedi.");
 const QString SonrakiTarihMetni = QStringLiteral("Bugünden sonraki bir tarihi taşıyan yedek var: %1. Sayıya "
                                                  "katılmadı, silinmedi; bilgisayarın saatine bakın.");
 
@@ -66,7 +68,9 @@ QStringList silinecekler(const QString& hedef, const QString& yeni, int sakla, c
         const QByteArray neslinTuzu = ad == yeni ? tuz : kitaplıkTuzu(hedef + u'/' + ad + u'/');
         if (önce(yeni, ad))
             notlar.append(SonrakiTarihMetni.arg(ad));
-        else if (ad != yeni && (tuz.isEmpty() || neslinTuzu.isEmpty() || neslinTuzu == tuz))
+        else if (neslinTuzu.isEmpty())
+            notlar.append(KiminBelliDeğilMetni.arg(ad));
+        else if (ad != yeni && neslinTuzu == tuz)
             eskiler.prepend(ad);
     }
     QStringList fazlalar = eskiler.mid(0, std::max<qsizetype>(0, eskiler.size() - std::max(sakla, 1) + 1));
@@ -108,6 +112,7 @@ YedekSonucu dene(const QString& klasör, const QString& hedef, int sakla, const 
                  const QDateTime& an)
 {
     YedekSonucu sonuç;
+    KlasörYapılabilmeli(hedef);
     const QString ad = BoşAd(Ön, hedef, an);
     sonuç.Yol = hedef + u'/' + ad;
     durumuYaz(ÇiftiDenetle(klasör, bildir), sonuç);

@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr int ZipUyarısı = 1, ZipteYok = 11; // statuses of unzip: a trifle, and no such file
+
 // What one process of the word processor gets: a start costs seconds, the copies' room and the command line
 // have an end.
 constexpr qsizetype BirlikteBelge = 300;
@@ -154,9 +156,14 @@ EpubKitabı Öbek::epub(const QString& yol)
         at(QStringLiteral("EPUB kitaplarını okumak için unzip paketini kurun."));
     QProcessEnvironment ortam = QProcessEnvironment::systemEnvironment();
     ortam.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    // By a name without signs that it would take for a pattern.
+    const QString bağ = klasör_.Yol(QStringLiteral("kitap.epub"));
+    QFile::remove(bağ);
+    if (!QFile::link(QFileInfo(yol).absoluteFilePath(), bağ))
+        at(QStringLiteral("Kitap açılamadı."));
     qint64 kalan = MetinDosyasıSınırı;
     return EpubOku([&](const QString& ad) {
-        DışProgram süreç(program, {QStringLiteral("-p"), QStringLiteral("-P"), QString(), yol, zipAdı(ad)},
+        DışProgram süreç(program, {QStringLiteral("-p"), QStringLiteral("-P"), QString(), bağ, zipAdı(ad)},
                          ortam);
         QByteArray parça;
         const auto al = [&] {
@@ -168,6 +175,8 @@ EpubKitabı Öbek::epub(const QString& yol)
         if (!ProgramıBekle(süreç, süreler_.Belge, al))
             at(QStringLiteral("Kitabın açılması çok uzun sürdü."));
         al();
+        if (süreç.Durum() > ZipUyarısı && süreç.Durum() != ZipteYok)
+            at(QStringLiteral("Kitabın bir bölümü bozuk."));
         kalan -= parça.size();
         return parça;
     });

@@ -319,7 +319,9 @@ void OfisÇevirici::Çevir(const QStringList& adlar, const Alıcı& alıcı)
         const auto bitenleriVer = [&] {
             while (önce + tur.Biten() - 1 > verilen) {
                 const QString yol = tur.Sonuç(verilen - önce + 1);
-                ver(sonuçOku(yol));
+                ver(QFileInfo(yol).size() == 0 || tamMı(yol)
+                        ? sonuçOku(yol)
+                        : neden(QStringLiteral("LibreOffice belgeyi yarım çevirdi.")));
                 QFile::remove(yol);
             }
         };

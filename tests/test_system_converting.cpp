@@ -87,6 +87,7 @@ private slots:
         row("crash at the first", {}, {crash, good}, 2);
         row("crash at the last", {}, {good, crash}, 2);
         row("crashes", {}, {good, good, crash, crash, half, good, refused, crash, good, half}, 6);
+        row("cut off", {}, {{page(u"CUT"_s), u"!yarım"_s}, good}, 1);
         row("crash when done", {}, {good, last, good}, 2);
         row("says nothing", u"silent"_s, {good, refused, good}, 1);
         row("says nothing, crash", u"silent"_s, {good, crash, good}, 3);
@@ -101,7 +102,10 @@ private slots:
              {u"%PDF-REFUSED"_s, u"!bozuk"_s},
              {u"%PDF-SCAN"_s, u"!taranmış"_s}},
             0);
-        row("book", {}, {{u"PK\3\4application/epub+zip"_s, u"|Kitap|||bölüm"_s}}, 1);
+        row("book", {},
+            {{u"PK\3\4application/epub+zip"_s, u"|Kitap|||bölüm"_s},
+             {u"PK\3\4application/epub+zip DAMAGED"_s, u"!bozuk"_s}},
+            1);
     }
 
     void results()

@@ -1,12 +1,15 @@
 #include "app/Oturum.h"
 #include "store/SistemHatası.h"
 #include "tools/Aktarıcı.h"
+#include "tools/AraçHatası.h"
 #include "tools/CsvSatırları.h"
 #include "tools/Durdurma.h"
 #include "tools/Hedef.h"
 #include "tools/Kaynaklar.h"
 #include "tools/KomutGövdeleri.h"
 #include "tools/Uçbirim.h"
+
+#include <QFileInfo>
 
 #include <array>
 
@@ -63,6 +66,12 @@ public:
 
     qint64 Toplam() const { return alınan() + sayı(AktarımSonucu::Atlandı) + reddedilen(); }
 
+    void RaporuDiskeYaz()
+    {
+        if (rapor_)
+            rapor_->DiskeYaz();
+    }
+    /// Not before what it tells of stands.
     void RaporuBitir()
     {
         if (rapor_)
@@ -141,8 +150,13 @@ void kaynağıAl(const QString& yol, const KaynakAyarı& ayar, Yazım yazım, co
 ÇıkışDurumu AktarKomutu(const Değişkenler& değişkenler)
 {
     const KaynakAyarı ayar = kaynakAyarı(değişkenler);
+    const QString rapor = değişkenler.Değer(u"rapor");
+    for (const QString& kaynak : değişkenler.Sıralı().mid(1)) {
+        if (!rapor.isEmpty() && QFileInfo(rapor).exists() && QFileInfo(rapor) == QFileInfo(kaynak))
+            throw YanlışKullanım(QStringLiteral("Rapor, kaynağın üstüne yazılamaz: %1").arg(rapor));
+    }
     const Yazım yazım = değişkenler.Var(u"olduğu-gibi") ? Yazım::OlduğuGibi : Yazım::YazılmışGibi;
-    AktarımHesabı hesap(değişkenler.Değer(u"rapor"));
+    AktarımHesabı hesap(rapor);
     Oturum oturum;
     oturum.SahipOlarakAç(KlasörYolu(değişkenler.Sıralı()[0]),
                          değişkenler.Deneme() ? Oturum::Erişim::Okuma : Oturum::Erişim::Yazma);
@@ -151,12 +165,13 @@ void kaynağıAl(const QString& yol, const KaynakAyarı& ayar, Yazım yazım, co
         Aktarıcı aktarıcı(*oturum.Veritabanı, yazım, !değişkenler.Deneme());
         for (const QString& kaynak : değişkenler.Sıralı().mid(1))
             kaynağıAl(kaynak, ayar, yazım, bekçi, aktarıcı, hesap);
-        hesap.RaporuBitir();
+        hesap.RaporuDiskeYaz();
         bekçi.Bak(); // the last article may have been a long one
     };
     if (değişkenler.Deneme())
         aktar();
     else
         oturum.Veritabanı->TekİşlemdeYap(aktar);
+    hesap.RaporuBitir();
     return hesap.Bildir(değişkenler.Deneme());
 }

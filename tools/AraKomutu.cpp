@@ -32,20 +32,21 @@ QByteArray işaretliBağlam(const AramaSonucu& sonuç, bool uçbirim)
 {
     QByteArray satır;
     qsizetype yazılan = 0;
+    const QString bağlam = Görünür(sonuç.Bağlam);
     for (const auto& [yer, boy] : sonuç.İşaretler) {
-        satır += sonuç.Bağlam.mid(yazılan, yer - yazılan).toUtf8();
-        const QByteArray vuruş = sonuç.Bağlam.mid(yer, boy).toUtf8();
+        satır += bağlam.mid(yazılan, yer - yazılan).toUtf8();
+        const QByteArray vuruş = bağlam.mid(yer, boy).toUtf8();
         satır += uçbirim ? VuruşBaşı + vuruş + VuruşSonu : vuruş;
         yazılan = yer + boy;
     }
-    return satır + sonuç.Bağlam.mid(yazılan).toUtf8();
+    return satır + bağlam.mid(yazılan).toUtf8();
 }
 
 QByteArray yazıSatırı(const AramaSonucu& sonuç, bool uçbirim)
 {
     const Makale& makale = sonuç.Bulunan;
     const QString künye = Sıralanmış({ListeMetni(makale), makale.Yer, makale.Tarih});
-    return künye.toUtf8() + "\n    " + işaretliBağlam(sonuç, uçbirim) + '\n';
+    return Görünür(künye).toUtf8() + "\n    " + işaretliBağlam(sonuç, uçbirim) + '\n';
 }
 
 QByteArray jsonSatırı(const AramaSonucu& sonuç)

@@ -53,6 +53,8 @@ void BelgeKaynağı::çevir()
         if (belge.Ret.isEmpty() && çevrilir(belge.Yol))
             yollar.append(QFileInfo(belge.Yol).absoluteFilePath());
     }
+    if (yollar.isEmpty())
+        return;
     İlerleme ilerleme(QStringLiteral("Belgeler çevriliyor"));
     BelgeleriÇevir(
         yollar,
@@ -79,7 +81,7 @@ Makale BelgeKaynağı::oku(const QString& yol) const
 
 Makale BelgeKaynağı::künyele(const QString& yol, ÇevrilenBelge belge) const
 {
-    const Makale yoldan = ayar_.Kalıp ? ayar_.Kalıp->Uygula(yol) : Makale();
+    const Makale yoldan = ayar_.Kalıp ? ayar_.Kalıp->Uygula(QFileInfo(yol).absoluteFilePath()) : Makale();
     const BelgeBilgisi& bilgi = belge.Bilgi;
     return {.Yazar = ilkDolu({bilgi.Yazar, yoldan.Yazar}),
             .Başlık = ilkDolu({bilgi.Başlık, yoldan.Başlık}),

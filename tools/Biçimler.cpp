@@ -73,14 +73,14 @@ void rtfVer(const QString& hedef, const MakaleGezisi& gez)
     });
 }
 
-constexpr std::array<VermeBiçimi, 8> biçimler = {{{u"csv", csvVer},
-                                                  {u"json", jsonVer},
-                                                  {u"bib", bibVer},
-                                                  {u"ris", risVer},
-                                                  {u"txt", txtVer},
-                                                  {u"rtf", rtfVer},
-                                                  {u"html", HtmlVer},
-                                                  {u"pdf", PdfVer}}};
+constexpr std::array<VermeBiçimi, 8> biçimler = {{{u"csv", HedefTürü::Dosya, csvVer},
+                                                  {u"json", HedefTürü::Dosya, jsonVer},
+                                                  {u"bib", HedefTürü::Dosya, bibVer},
+                                                  {u"ris", HedefTürü::Dosya, risVer},
+                                                  {u"txt", HedefTürü::Klasör, txtVer},
+                                                  {u"rtf", HedefTürü::Klasör, rtfVer},
+                                                  {u"html", HedefTürü::Dosya, HtmlVer},
+                                                  {u"pdf", HedefTürü::Dosya, PdfVer}}};
 
 } // namespace
 

@@ -63,9 +63,29 @@ QString Makale::*sütun(QStringView yazılan)
     return yer == SütunAdları.end() ? nullptr : yer->değer;
 }
 
-char ayraç(const QByteArray& satır)
+/// How often it stands outside quotes.
+qsizetype tırnakDışındaki(const QByteArray& satır, char aranan)
 {
-    return satır.count(';') > satır.count(',') ? ';' : ',';
+    qsizetype sayı = 0;
+    bool tırnakta = false;
+    for (const char bayt : satır) {
+        tırnakta = tırnakta != (bayt == '"');
+        sayı += bayt == aranan && !tırnakta ? 1 : 0;
+    }
+    return sayı;
+}
+
+/// Nothing where both would do.
+/// @param sütunlar how many columns the row has; 0 where that isn't known
+std::optional<char> ayraç(const QByteArray& satır, std::size_t sütunlar)
+{
+    const qsizetype noktalı = tırnakDışındaki(satır, ';'), virgül = tırnakDışındaki(satır, ',');
+    const auto uyar = [sütunlar](qsizetype sayı) { return sayı + 1 == qsizetype(sütunlar); };
+    if (uyar(noktalı) && uyar(virgül))
+        return {};
+    if (uyar(noktalı) != uyar(virgül))
+        return uyar(noktalı) ? ';' : ',';
+    return noktalı > virgül ? ';' : ',';
 }
 
 } // namespace
@@ -162,8 +182,13 @@ bool CsvKaynağı::kayıtOku()
     };
     QByteArray satır;
     while (dosya_.Oku(satır)) {
-        if (dosya_.SatırNo() == 1)
-            çözücü_->Ayraç(ayraç(satır));
+        if (dosya_.SatırNo() == 1) {
+            const std::optional<char> bulunan = ayraç(satır, sütunlar_.size());
+            denetle(bulunan.has_value(),
+                    QStringLiteral("Alanları virgül mü noktalı virgül mü ayırıyor belli değil; "
+                                   "ilk satıra sütunların adlarını yazın."));
+            çözücü_->Ayraç(*bulunan);
+        }
         denetle(QUtf8StringView(satır).isValidUtf8(), QStringLiteral("Satır geçerli bir UTF-8 metni değil."));
         denetle(çözücü_->Besle(satır), QStringLiteral("Tırnak (\") alanın ortasında ya da eksik."));
         if (çözücü_->KayıtVar())

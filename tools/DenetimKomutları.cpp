@@ -63,7 +63,10 @@ private:
     {
         for (int no = 2;; ++no) {
             const QString ek = QStringLiteral(" (%1)").arg(no);
-            const QString yeni = başlık.left(Tanım(MakaleSütunu::MakaleBasligi).enUzun - ek.size()) + ek;
+            QString yeni = başlık.left(Tanım(MakaleSütunu::MakaleBasligi).enUzun - ek.size());
+            if (!yeni.isEmpty() && yeni.back().isHighSurrogate()) // half of a letter
+                yeni.chop(1);
+            yeni += ek;
             if (++başlıklar_[Katla(yeni)] == 1)
                 return yeni;
         }

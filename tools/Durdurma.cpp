@@ -32,8 +32,11 @@ DurdurmaBekçisi::DurdurmaBekçisi()
     struct sigaction eylem = {};
     eylem.sa_handler = notEt;
     eylem.sa_flags = static_cast<int>(SA_RESETHAND);
-    for (std::size_t i = 0; i < İşaretler.size(); ++i)
-        sigaction(İşaretler[i], &eylem, &eskiler_[i]);
+    for (std::size_t i = 0; i < İşaretler.size(); ++i) {
+        sigaction(İşaretler[i], nullptr, &eskiler_[i]);
+        if (eskiler_[i].sa_handler != SIG_IGN) // as nohup has it
+            sigaction(İşaretler[i], &eylem, nullptr);
+    }
 }
 
 DurdurmaBekçisi::~DurdurmaBekçisi()

@@ -1,5 +1,6 @@
 #include "tools/Döküm.h"
 
+#include "store/MakaleKuralları.h"
 #include "text/TürkçeHarfler.h"
 #include "tools/Künye.h"
 #include "tools/Uçbirim.h"
@@ -10,7 +11,7 @@ Döküm::Döküm(const QString& klasör, const DökümSüzgeci& süzgeç) : süz
     İlerleme ilerleme(QStringLiteral("Makaleler aranıyor"));
     oturum_.Veritabanı->İlerlemeAta([&] {
         ilerleme.Göster(0, 0);
-        return true;
+        return !bekçi_.Durduruldu();
     });
     okuyucu_.emplace(*oturum_.Veritabanı);
     oturum_.Veritabanı->İlerlemeAta({});
@@ -19,8 +20,12 @@ Döküm::Döküm(const QString& klasör, const DökümSüzgeci& süzgeç) : süz
 /// An article whose author can't be read may be one that is asked for.
 bool Döküm::istenen(const MakaleKünyesi& künye) const
 {
-    return süzgeç_.Yazar.isEmpty() || künye.YazarAdi.isNull() ||
-           Katla(künye.YazarAdi) == Katla(süzgeç_.Yazar);
+    if (süzgeç_.Yazar.isEmpty() || künye.YazarAdi.isNull())
+        return true;
+    Makale aranan;
+    aranan.Yazar = süzgeç_.Yazar;
+    const QString yazar = Katla(künye.YazarAdi);
+    return yazar == Katla(aranan.Yazar) || yazar == Katla(YazılmışGibi(aranan).Yazar);
 }
 
 void Döküm::Gez(const QString& iş, const std::function<void(const Makale&)>& al)

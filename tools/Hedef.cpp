@@ -1,6 +1,8 @@
 #include "tools/Hedef.h"
 
+#include "store/MakaleKitaplığı.h"
 #include "store/SistemHatası.h"
+#include "tools/AraçHatası.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,18 +21,40 @@ bool boşKlasör(const QString& yol)
 
 } // namespace
 
-void HedefYeniOlmalı(const QString& yol)
+void HedefYeniOlmalı(const QString& yol, HedefTürü tür)
+{
+    HedefAdıUygunOlmalı(yol);
+    const QFileInfo hedef(yol);
+    const bool alınır = tür == HedefTürü::Klasör && !hedef.isSymLink() && boşKlasör(yol);
+    if ((hedef.exists() || hedef.isSymLink()) && !alınır)
+        throw VeritabanıHatası(HataNo::DosyaVar, yol);
+    const QString üst = hedef.absolutePath();
+    errno = 0;
+    if (access(QFile::encodeName(üst).constData(), W_OK | X_OK) != 0)
+        SistemHatasıVer(errno, Erişim::Yazma, üst);
+}
+
+void HedefAdıUygunOlmalı(const QString& yol)
 {
     YolGeçerliOlmalı(yol);
     const QFileInfo hedef(yol);
-    if ((hedef.exists() || hedef.isSymLink()) && !boşKlasör(yol))
-        throw VeritabanıHatası(HataNo::DosyaVar, yol);
+    for (const QStringView dosya : {DosyaAdları::Kitaplık, DosyaAdları::Grup, DosyaAdları::Kopya}) {
+        if (hedef.fileName().startsWith(dosya))
+            throw AraçHatası(
+                QStringLiteral("%1 kitaplığın bir dosyasının adı; başka bir ad verin.").arg(yol));
+    }
+    const QString asıl = QDir::cleanPath(hedef.absoluteFilePath());
+    if (asıl.startsWith(u"/dev/") || asıl.startsWith(u"/proc/") ||
+        (hedef.exists() && !hedef.isFile() && !hedef.isDir()))
+        throw AraçHatası(QStringLiteral("%1 bir dosya değil; bir dosyanın adını verin.").arg(yol));
 }
 
 HedefDosya::HedefDosya(const QString& yol, Varsa varsa) : yol_(yol), dosya_(yol)
 {
     if (varsa == Varsa::Reddet)
-        HedefYeniOlmalı(yol);
+        HedefYeniOlmalı(yol, HedefTürü::Dosya);
+    else
+        HedefAdıUygunOlmalı(yol);
     errno = 0;
     if (!dosya_.open(QIODevice::WriteOnly))
         SistemHatasıVer(errno, Erişim::Yazma, yol);
@@ -56,16 +80,23 @@ void HedefDosya::Yaz(const QByteArray& baytlar)
         hataVer();
 }
 
-void HedefDosya::Bitir()
+void HedefDosya::DiskeYaz()
 {
     errno = 0;
-    if (!dosya_.flush() || fsync(dosya_.handle()) != 0 || !dosya_.commit())
+    if (!dosya_.flush() || fsync(dosya_.handle()) != 0)
+        hataVer();
+}
+
+void HedefDosya::Bitir()
+{
+    DiskeYaz();
+    if (!dosya_.commit())
         hataVer();
 }
 
 HedefKlasör::HedefKlasör(const QString& yol) : yol_(QDir::cleanPath(QFileInfo(yol).absoluteFilePath()))
 {
-    HedefYeniOlmalı(yol_);
+    HedefYeniOlmalı(yol_, HedefTürü::Klasör);
     errno = 0;
     geçici_.emplace(yol_ + QStringLiteral(".XXXXXX"));
     if (!geçici_->isValid())

@@ -22,6 +22,8 @@ public:
 
     /// Throws VeritabanıHatası DiskDolu or DiskHatası.
     void Yaz(const QByteArray& baytlar);
+    /// Writes to the disk what was written so far: what Bitir does after it hardly fails. Throws as Yaz.
+    void DiskeYaz();
     /// Written to the disk, then put under its name. Throws as Yaz.
     void Bitir();
     QIODevice& Aygıt() { return dosya_; } ///< for writers that want one
@@ -60,5 +62,13 @@ private:
     std::optional<QTemporaryDir> geçici_;
 };
 
-/// Throws VeritabanıHatası DosyaVar where the target exists and can't be taken.
-void HedefYeniOlmalı(const QString& yol);
+enum class HedefTürü
+{
+    Dosya,
+    Klasör ///< one that is empty is taken
+};
+/// Throws VeritabanıHatası DosyaVar where the target exists and can't be taken, what the system says where
+/// nothing can be made there, and what HedefAdıUygunOlmalı throws.
+void HedefYeniOlmalı(const QString& yol, HedefTürü tür);
+/// Throws AraçHatası for the name of a library's file, and for what is no regular file.
+void HedefAdıUygunOlmalı(const QString& yol);

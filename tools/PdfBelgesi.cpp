@@ -115,6 +115,8 @@ void PdfVer(const QString& hedef, const MakaleGezisi& gez)
     PdfBelgesi taslak(boş);
     taslak.İçindekiler(satırlar);
     gez([&, sıra = std::size_t(0)](const Makale& makale) mutable {
+        if (sıra == satırlar.size()) // what could not be read before may be readable now
+            satırlar.push_back({ListeMetni(makale)});
         satırlar[sıra++].Sayfa = taslak.Ekle(makale);
     });
     taslak.Bitir();

@@ -1,7 +1,7 @@
+#include "store/KitaplıkKlasörü.h"
 #include "store/KlasörKilidi.h"
 #include "store/MakaleKitaplığı.h"
 #include "store/SistemHatası.h"
-#include "tools/AraçHatası.h"
 #include "tools/KomutGövdeleri.h"
 #include "tools/Uçbirim.h"
 
@@ -19,14 +19,15 @@ QString KlasörYolu(const QString& klasör)
     const QString klasör = KlasörYolu(değişkenler.Sıralı()[0]);
     if (değişkenler.Deneme()) {
         KitaplıkKurulabilmeli(klasör);
+        KlasörYapılabilmeli(klasör);
         Bildir(DenemeMetni);
         Bildir(QStringLiteral("Boş bir kitaplık oluşturulurdu: %1").arg(klasör));
         return Başarılı;
     }
-    if (!QDir().mkpath(klasör))
-        throw AraçHatası(QStringLiteral("Klasör oluşturulamıyor (%1).").arg(klasör));
+    YeniKlasör yeni(klasör);
     const KlasörKilidi kilit(klasör);
     KitaplıkKur(klasör);
+    yeni.Kalsın();
     Bildir(QStringLiteral("Boş bir kitaplık oluşturuldu: %1").arg(klasör));
     return Başarılı;
 }

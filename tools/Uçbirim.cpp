@@ -46,14 +46,23 @@ void Çıktı::Bitir()
         hataVer();
 }
 
+QString Görünür(QString metin)
+{
+    for (QChar& harf : metin) {
+        if (harf.category() == QChar::Other_Control && harf != u'\n' && harf != u'\t')
+            harf = QChar::ReplacementCharacter;
+    }
+    return metin;
+}
+
 void Bildir(const QString& cümle)
 {
-    yaz(stdout, cümle.toUtf8() + '\n');
+    yaz(stdout, Görünür(cümle).toUtf8() + '\n');
 }
 
 void HataBildir(const QString& cümle)
 {
-    yaz(stderr, "belgenar-kitaplik: " + cümle.toUtf8() + '\n');
+    yaz(stderr, "belgenar-kitaplik: " + Görünür(cümle).toUtf8() + '\n');
 }
 
 İlerleme::İlerleme(const QString& iş) : iş_(iş), uçbirim_(isatty(STDERR_FILENO) == 1)

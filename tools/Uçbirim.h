@@ -33,6 +33,9 @@ private:
 /// What stands before the report of a run that changed nothing.
 inline const QString DenemeMetni = QStringLiteral("Deneme; hiçbir şey değiştirilmedi. Yapılacak olan:");
 
+/// The text without what a terminal would take for orders: titles and file names come from elsewhere.
+QString Görünür(QString metin);
+
 /// One line on the standard output about work that is done, so a failure to write it is no failure.
 void Bildir(const QString& cümle);
 

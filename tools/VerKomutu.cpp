@@ -20,11 +20,15 @@
 ÇıkışDurumu VerKomutu(const Değişkenler& değişkenler)
 {
     const VermeBiçimi& biçim = BiçimBul(değişkenler.Değer(u"biçim"));
-    DökümSüzgeci süzgeç{değişkenler.Değer(u"yazar"), {}};
+    // The library's texts are in normal form C; what a terminal gives need not be.
+    const auto değer = [&değişkenler](QStringView ad) {
+        return değişkenler.Değer(ad).normalized(QString::NormalizationForm_C);
+    };
+    DökümSüzgeci süzgeç{değer(u"yazar"), {}};
     if (değişkenler.Var(u"sözcük"))
-        süzgeç.Sözcük.emplace(QString(u'*' + değişkenler.Değer(u"sözcük") + u'*'));
+        süzgeç.Sözcük.emplace(QString(u'*' + değer(u"sözcük") + u'*'));
     const QString& hedef = değişkenler.Sıralı()[1];
-    HedefYeniOlmalı(hedef);
+    HedefYeniOlmalı(hedef, biçim.Hedef);
 
     Döküm döküm(KlasörYolu(değişkenler.Sıralı()[0]), süzgeç);
     if (değişkenler.Deneme()) {

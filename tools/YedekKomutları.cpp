@@ -32,18 +32,24 @@ QString nesilSatırı(const YedekNesli& nesil)
     const QString durum =
         nesil.Sorun ? QStringLiteral("%1: %2").arg(nesil.Sorun->Numara()).arg(nesil.Sorun->Açıklama())
                     : QStringLiteral("%1 makale").arg(nesil.MakaleSayısı);
-    return QStringLiteral("%1  %2  %3").arg(nesil.Ad, nesil.Tarih.toString(u"dd.MM.yyyy HH:mm"), durum);
+    const QString not_ = nesil.Not.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(nesil.Not);
+    return QStringLiteral("%1  %2  %3%4")
+        .arg(nesil.Ad, nesil.Tarih.toString(u"dd.MM.yyyy HH:mm"), durum, not_);
 }
 
 ÇıkışDurumu nesilleriYaz(const QString& hedef, const std::vector<YedekNesli>& nesiller)
 {
+    Çıktı çıktı;
     for (const YedekNesli& nesil : nesiller)
-        Bildir(nesilSatırı(nesil));
+        çıktı.Yaz(nesilSatırı(nesil) + u'\n');
     if (nesiller.empty())
-        Bildir(QStringLiteral("Yedek yok: %1").arg(hedef));
+        çıktı.Yaz(QStringLiteral("Yedek yok: %1\n").arg(hedef));
     else
-        Bildir(QStringLiteral("Birini geri koymak için: --yedek AD (en yenisi için --yedek son)."));
-    return Başarılı;
+        çıktı.Yaz(QStringLiteral("Birini geri koymak için: --yedek AD (en yenisi için --yedek son).\n"));
+    çıktı.Bitir();
+    const bool sorunlu = std::any_of(nesiller.begin(), nesiller.end(),
+                                     [](const YedekNesli& nesil) { return nesil.Sorun.has_value(); });
+    return sorunlu ? Başarısız : Başarılı;
 }
 
 /// The newest one that can be put back.
@@ -71,7 +77,7 @@ QString enYeniSağlam(const QString& hedef, const SürdürmeBildirimi& bildir)
     }
     if (değişkenler.Deneme())
         Bildir(DenemeMetni);
-    Bildir(QStringLiteral("Yedek: %1 (%2 makale)").arg(sonuç.Yol).arg(sonuç.MakaleSayısı));
+    Bildir(QStringLiteral("Yedek: %1 (%2 makale)").arg(sonuç.Yol, QString::number(sonuç.MakaleSayısı)));
     for (const QString& silinen : sonuç.Silinenler)
         Bildir(QStringLiteral("Silinen eski yedek: %1").arg(silinen));
     for (const QString& not_ : sonuç.Notlar)
@@ -100,7 +106,7 @@ QString enYeniSağlam(const QString& hedef, const SürdürmeBildirimi& bildir)
     ilerleme.reset();
     if (değişkenler.Deneme())
         Bildir(DenemeMetni);
-    Bildir(QStringLiteral("Geri konan: %1 (%2 makale)").arg(ad).arg(sonuç.MakaleSayısı));
+    Bildir(QStringLiteral("Geri konan: %1 (%2 makale)").arg(ad, QString::number(sonuç.MakaleSayısı)));
     if (!sonuç.ÖncekiYol.isEmpty())
         Bildir(QStringLiteral("Önceki dosyaların yeri: %1").arg(sonuç.ÖncekiYol));
     for (const QString& not_ : sonuç.Notlar)
