@@ -1,3 +1,4 @@
+#include "text/SözcükYerleri.h"
 #include "text/TürkçeHarfler.h"
 #include "text/TürkçeSıralama.h"
 #include "text/TürkçeTarih.h"
@@ -22,6 +23,8 @@ private slots:
     void order();
     void dates_data();
     void dates();
+    void wordPlaces_data();
+    void wordPlaces();
 };
 
 void TestText::foldingKeepsPositions()
@@ -172,6 +175,67 @@ void TestText::dates()
     QFETCH(QString, text);
     QFETCH(bool, isDate);
     QCOMPARE(TürkçeTarihMi(text), isDate);
+}
+
+void TestText::wordPlaces_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QString>("selected"); // first unit and length
+    QTest::addColumn<QString>("next");     // first unit, length, its number, + where it wrapped
+    QTest::addColumn<QString>("previous");
+    const auto row = [](const char* name, const QString& text, const QString& word, const QString& selected,
+                        const QString& next, const QString& previous) {
+        QTest::newRow(name) << text << word << selected << next << previous;
+    };
+    const QString sea = u"Deniz, denizler\nDENİZDEN"_s;
+    row("caret on the first", sea, u"deniz"_s, u"0 0"_s, u"0 5 1"_s, u"16 5 3+"_s);
+    row("the first selected", sea, u"deniz"_s, u"0 5"_s, u"7 5 2"_s, u"16 5 3+"_s);
+    row("caret inside a place", sea, u"deniz"_s, u"8 0"_s, u"16 5 3"_s, u"7 5 2"_s);
+    row("caret behind a place", sea, u"deniz"_s, u"5 0"_s, u"7 5 2"_s, u"0 5 1"_s);
+    row("something else selected", sea, u"deniz"_s, u"0 24"_s, u"0 5 1"_s, u"16 5 3+"_s);
+    row("the last selected", sea, u"deniz"_s, u"16 5"_s, u"0 5 1+"_s, u"7 5 2"_s);
+    row("caret at the end", sea, u"deniz"_s, u"24 0"_s, u"0 5 1+"_s, u"16 5 3"_s);
+    row("only one, selected", u"bir deniz"_s, u"deniz"_s, u"4 5"_s, u"4 5 1+"_s, u"4 5 1+"_s);
+    row("over a line's end", u"a\nb"_s, u"a\nb"_s, u"0 0"_s, u"0 3 1"_s, u"0 3 1+"_s);
+    row("none", sea, u"kara"_s, u"0 0"_s, {}, {});
+    row("dotless i is another letter", sea, u"denız"_s, u"0 0"_s, {}, {});
+    row("dotted", u"IRMAK İri IĞDIR iri ırı"_s, u"İRİ"_s, u"7 0"_s, u"16 3 2"_s, u"6 3 1"_s);
+    row("dotless", u"IRMAK İri IĞDIR ırma"_s, u"ırma"_s, u"0 4"_s, u"16 4 2"_s, u"16 4 2+"_s);
+    row("empty text", {}, u"deniz"_s, u"0 0"_s, {}, {});
+    row("no word", sea, {}, u"0 0"_s, {}, {});
+    row("no overlaps", u"aaaaa"_s, u"aa"_s, u"0 2"_s, u"2 2 2"_s, u"2 2 2+"_s);
+    row("behind a pair of units", u"😀 e\u0301 deniz"_s, u"deniz"_s, u"0 0"_s, u"6 5 1"_s, u"6 5 1+"_s);
+    row("decomposed word", u"çay \u00e9"_s, u" e\u0301"_s, u"0 0"_s, u"3 2 1"_s, u"3 2 1+"_s);
+    // Signs mean themselves as long as they stand in the text.
+    row("as typed", u"ney ne? nen"_s, u"ne?"_s, u"0 0"_s, u"4 3 1"_s, u"4 3 1+"_s);
+    row("one letter", u"köy kıy k"_s, u"k?y"_s, u"0 3"_s, u"4 3 2"_s, u"4 3 2+"_s);
+    row("one letter of two units", u"k😀y"_s, u"k?y"_s, u"0 0"_s, u"0 4 1"_s, u"0 4 1+"_s);
+    row("digits", u"yıl 1928, 19a"_s, u"19##"_s, u"0 0"_s, u"4 4 1"_s, u"4 4 1+"_s);
+    row("list", u"baz kaz saz"_s, u"[ks]az"_s, u"4 3"_s, u"8 3 2"_s, u"8 3 2+"_s);
+    row("not of a list", u"kaz baz"_s, u"[!k]az"_s, u"0 0"_s, u"4 3 1"_s, u"4 3 1+"_s);
+    row("pieces", u"kıyı: Deniz, KIYIDA"_s, u"*deniz*kıyı*"_s, u"0 0"_s, u"0 4 1"_s, u"13 4 3+"_s);
+    row("the longer piece", u"x denizci"_s, u"deniz*denizci"_s, u"0 0"_s, u"2 7 1"_s, u"2 7 1+"_s);
+    row("no piece", sea, u"**"_s, u"0 0"_s, {}, {});
+    row("unclosed bracket", u"a [köşe"_s, u"[kö"_s, u"0 0"_s, u"2 3 1"_s, u"2 3 1+"_s);
+}
+
+void TestText::wordPlaces()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, word);
+    QFETCH(QString, selected);
+    const auto told = [](const std::optional<SözcükYerleri::Adım>& step) {
+        return step ? u"%1 %2 %3%4"_s.arg(step->Yer.Baş)
+                          .arg(step->Yer.Uzunluk)
+                          .arg(step->Sıra)
+                          .arg(step->Sardı ? u"+"_s : QString())
+                    : QString();
+    };
+    const SözcükYerleri places(text, word);
+    const MetinYeri from{selected.section(u' ', 0, 0).toInt(), selected.section(u' ', 1).toInt()};
+    QTEST(told(places.Sonraki(from)), "next");
+    QTEST(told(places.Önceki(from)), "previous");
 }
 
 QTEST_APPLESS_MAIN(TestText)

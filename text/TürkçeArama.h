@@ -5,15 +5,14 @@
 #include <QStringList>
 #include <QStringMatcher>
 
-/// Finds the places of one text in another, one after the other. Places may overlap; an empty text is found
-/// nowhere.
+/// Finds the places of one text in another, one after the other. An empty text is found nowhere.
 class MetinArayıcı
 {
 public:
     MetinArayıcı(QStringView metin, QStringView aranan);
 
-    /// The first place behind this one, as its position in UTF-16 units counted from 1; 0 when there is none.
-    /// @param konum a position that this function gave; 0 to search from the beginning
+    /// The first place behind so many units, as its position in UTF-16 units counted from 1; 0 when there is
+    /// none. What it gave leads it on to the next place, which may overlap.
     qint32 Sonraki(qint32 konum) const;
 
 private:
