@@ -43,10 +43,29 @@ void AçılırListe::Text(const QString& metin)
         return;
     }
     const QString aranan = Katla(metin.normalized(QString::NormalizationForm_C));
+    ListIndex(ilkUyan([&aranan](const QString& öğe) { return Katla(öğe) == aranan; }));
+}
+
+template<class Uyar> int AçılırListe::ilkUyan(Uyar uyar) const
+{
     int sıra = 0;
-    while (sıra < ListCount() && Katla(itemText(sıra)) != aranan)
+    while (sıra < ListCount() && !uyar(itemText(sıra)))
         ++sıra;
-    ListIndex(sıra);
+    return sıra < ListCount() ? sıra : -1;
+}
+
+void AçılırListe::showPopup()
+{
+    TuşOlaylı<QComboBox>::showPopup();
+    const QString baş = Text().normalized(QString::NormalizationForm_C);
+    if (!isEditable() || baş.isEmpty())
+        return;
+    const int sıra = ilkUyan([&baş](const QString& öğe) { return İleBaşlar(öğe, baş); });
+    if (sıra < 0)
+        return;
+    const QModelIndex yer = model()->index(sıra, modelColumn(), rootModelIndex());
+    view()->setCurrentIndex(yer); // of the open list only; the field keeps what was typed
+    view()->scrollTo(yer, QAbstractItemView::PositionAtTop);
 }
 
 // A turn of the wheel over the closed list, meant for the window, would change what was chosen.

@@ -9,7 +9,8 @@
 
 #include <functional>
 
-/// Indices count from 0; -1 is no selection. What is typed is never completed and never becomes an entry.
+/// Indices count from 0; -1 is no selection. What is typed is never completed and never becomes an entry; the
+/// list opens at the first entry that begins with it.
 class AçılırListe : public TuşOlaylı<QComboBox>
 {
 public:
@@ -40,6 +41,11 @@ public:
     void AddItems(const QStringList& metinler) { addItems(metinler); }
     void Clear() { clear(); }
 
+    void showPopup() override;
+
 protected:
     void wheelEvent(QWheelEvent* olay) override;
+
+private:
+    template<class Uyar> int ilkUyan(Uyar uyar) const;
 };

@@ -149,6 +149,7 @@ private slots:
     void waysOutOfTheDate_data();
     void waysOutOfTheDate();
     void pasteAndFiles();
+    void authorsListOpensAtWhatIsTyped();
     void change();
     void sameTitlesAndLongValues();
     void deleteUntilOneIsLeft();
@@ -403,6 +404,30 @@ void TestEntryWindows::pasteAndFiles()
         QCOMPARE(p.Metin().Text(), u"kalın eğik\nson"_s);
         cursor.setPosition(3);
         QVERIFY(cursor.charFormat().fontWeight() != QFont::Bold);
+    });
+}
+
+void TestEntryWindows::authorsListOpensAtWhatIsTyped()
+{
+    Ekle(*Veritabanı, {{u"ZEKİ İRİ"_s, u"B1"_s, u"x"_s}, {u"ZEKİ IRMAK"_s, u"B2"_s, u"x"_s}});
+    changing([&](Pencere p) {
+        for (const auto& [typed, opened] :
+             {std::pair(u"zeki i"_s, u"ZEKİ İRİ"_s), std::pair(u"ZEKİ"_s, u"ZEKİ IRMAK"_s),
+              std::pair(u"ZEKİ I"_s, u"ZEKİ IRMAK"_s), std::pair(u"yok"_s, QString()),
+              std::pair(QString(), QString())}) {
+            p.Yazar().Text(typed);
+            p.Yazar().setFocus();
+            QTest::keyClick(&p.Yazar(), Qt::Key_Down, Qt::AltModifier);
+            QVERIFY(p.Yazar().view()->isVisible());
+            QCOMPARE(p.Yazar().view()->currentIndex().data().toString(), opened);
+            QCOMPARE(p.Yazar().Text(), typed);
+            QTest::keyClick(p.Yazar().view(), Qt::Key_Escape);
+            QCOMPARE(p.Yazar().Text(), typed);
+        }
+        p.Yazar().Text(u"ZEKİ"_s);
+        p.Yazar().showPopup();
+        QTest::keyClick(p.Yazar().view(), Qt::Key_Return);
+        QCOMPARE(p.Yazar().Text(), u"ZEKİ IRMAK"_s);
     });
 }
 
