@@ -102,6 +102,9 @@ enum class İleti : int
     HataBildirmeAdresleri = 520,
     HakkındaBaşlığı = 530,
     DeğiştirilecekMakaleSeçiniz = 550,
+    Baştan = 620,
+    Sondan = 625,
+    YerYok = 630,
 };
 
 /// The text, letter for letter.

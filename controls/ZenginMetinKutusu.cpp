@@ -60,6 +60,12 @@ void ZenginMetinKutusu::Seç(int yer, int uzunluk)
     setTextCursor(imleç);
 }
 
+void ZenginMetinKutusu::OrtadaSeç(int yer, int uzunluk)
+{
+    Seç(yer, uzunluk);
+    centerCursor();
+}
+
 // Plain text only, letter for letter: formats here are marks and leftovers of a file.
 QMimeData* ZenginMetinKutusu::createMimeDataFromSelection() const
 {

@@ -38,6 +38,8 @@ public:
     QString SelText() const;
     /// Selects a stretch; its end becomes the caret.
     void Seç(int yer, int uzunluk);
+    /// Selects a stretch and brings it to the middle of what is seen.
+    void OrtadaSeç(int yer, int uzunluk);
     /// Puts the caret at a place, at the text's end where that lies beyond it; selects nothing and
     /// does not scroll.
     void SelStart(int yer);

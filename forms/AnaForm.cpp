@@ -145,6 +145,8 @@ void AnaForm::olaylarıBağla()
     bulmaOlaylarınıBağla();
     menüOlaylarınıBağla();
     metinOlaylarınıBağla();
+    yerOlaylarınıBağla();
+    tuşlarıBağla();
     connect(&ÇıkışButonu, &QPushButton::clicked, this, &AnaForm::ÇıkışButonu_Click);
     connect(&Sınırla, &QTimer::timeout, this, &AnaForm::Sınırla_Timer);
     auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), this);

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "controls/Düğme.h"
+#include "controls/KöşeBildirimi.h"
 #include "controls/ListeKutusu.h"
 #include "controls/MetinKutusu.h"
 #include "controls/OdakEtiketi.h"
 #include "controls/ZenginMetinKutusu.h"
 #include "forms/AnaPencere.h"
 #include "store/Recordset.h"
+#include "text/SözcükYerleri.h"
 
 #include <QAction>
 #include <QFrame>
@@ -18,6 +20,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class EkleFormu;
 
@@ -89,6 +92,7 @@ private:
     void menüleriKur();
     void sekmeSırasıKur();
     void olaylarıBağla();
+    void tuşlarıBağla();
 
     // Loading and browsing
     void Form_Load();
@@ -132,6 +136,17 @@ private:
     void bulmaEtiketi(const QString& yazı);
     void bulmaDüğmeleri(bool açık);
     void yazarTarafı(bool açık);
+
+    // From one place of the word to the next
+    void yerOlaylarınıBağla();
+    enum class Yön
+    {
+        İleri,
+        Geri
+    };
+    void yereGit(Yön yön);
+    std::optional<SözcükYerleri::Adım> yerAdımı(Yön yön);
+    void yerlerEskidi();
 
     // What the menus lead to
     void menüOlaylarınıBağla();
@@ -179,6 +194,7 @@ private:
     QLabel ToplamMakaleSayısıEtiketi;
     MetinKutusu MakaleBulKutusu;
     ZenginMetinKutusu MakaleMetniKutusu;
+    KöşeBildirimi bildirim_{MakaleMetniKutusu};
     MetinKutusu BulKutusu;
     Düğme BulButonu, TemizleButonu, TümündeBulButonu, ÇıkışButonu;
     ZenginMetinKutusu YazdırKutusu;
@@ -193,6 +209,8 @@ private:
     QAction MenüÇizgisi2{this}, MenüÇizgisi3{this};
 
     qint32 AramaKonumu = 0; // where the last place was found, counted from 1; 0 begins at the beginning
+    std::optional<SözcükYerleri> yerler_; // of the word in the shown text, once they were asked for
+    bool imleçİşarette_ = false;          // marking has left the caret there; the reader is elsewhere
     OdakEtiketi odakEtiketi_;
     EkleFormu* ekleFormu_ = nullptr; // while it is shown
     QString sonuçYazarı_;            // author of the shown article in the result view

@@ -63,6 +63,7 @@ void AnaForm::MakaleBulKutusu_Change()
 
 void AnaForm::BulKutusu_Change()
 {
+    yerlerEskidi();
     AdımAdım([this] {
         if (BulKutusu.Text().isEmpty())
             TemizleButonu_Click();
@@ -138,6 +139,7 @@ void AnaForm::BulButonu_Click()
             return;
         const qsizetype işaretlenen = sözcüğüİşaretle();
         MakaleMetniKutusu.SelStart(MakaleMetniKutusu.SelStart() + 1);
+        imleçİşarette_ = işaretlenen > 0;
         if (işaretlenen > 0)
             return Duyur(İşaretlendiMetni.arg(işaretlenen));
         İletiGöster(Metin(İleti::SözcükMetindeYok), İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
@@ -157,6 +159,7 @@ qsizetype AnaForm::sözcüğüİşaretle()
     while ((AramaKonumu = arayıcı.Sonraki(AramaKonumu)) != 0)
         yerler.append(AramaKonumu - 1);
     MakaleMetniKutusu.İşaretle(yerler, sözcük.size() + 1); // the blank before it, but not the one behind
+    imleçİşarette_ = !yerler.isEmpty();
     return yerler.size();
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/Görünüm.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QTest>
@@ -25,6 +26,24 @@ const QStringList Kontroller = {u"YazarListesi"_s,    u"YazarBulKutusu"_s,    u"
                                 u"MakaleBulKutusu"_s, u"MakaleMetniKutusu"_s, u"BulKutusu"_s};
 
 } // namespace
+
+namespace {
+
+QStringList bildirimler; // what screen readers are told without the focus being there
+
+} // namespace
+
+// Stand in for a desktop with a screen reader, which the offscreen platform has none of.
+bool QAccessible::isActive()
+{
+    return true;
+}
+void QAccessible::updateAccessibility(QAccessibleEvent* event)
+{
+    const QAccessibleInterface* told = event->type() == ObjectShow ? event->accessibleInterface() : nullptr;
+    if (told && told->role() == Notification)
+        bildirimler.append(told->text(Name));
+}
 
 class TestFinding : public QObject
 {
@@ -119,6 +138,76 @@ private slots:
         press(u"TemizleButonu"_s);
         QCOMPARE(marked(), QStringList());
         QCOMPARE(t->Metin().Text() + word().Text(), text);
+    }
+    void places_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("sought");
+        QTest::addColumn<QString>("keys"); // F3 for each +, Shift+F3 for each -, the find button for b
+        QTest::addColumn<QString>("selected");
+        QTest::addColumn<int>("start");
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char* name, QStringView title, QStringView sought, const QString& keys,
+                            const QString& selected, int start, const QString& told) {
+            QTest::newRow(name) << title.toString() << sought.toString() << keys << selected << start << told;
+        };
+        row("first", u"ZEYTİN", u"deniz", u"+"_s, u"Deniz"_s, 0, u"1 / 4"_s);
+        row("inside a word", u"ÇAY", u"deniz", u"+++"_s, u"deniz"_s, 28, u"3 / 3"_s);
+        row("on over the end", u"ZEYTİN", u"deniz", u"+++++"_s, u"Deniz"_s, 0, u"1 / 4, baştan"_s);
+        row("back over the beginning", u"ZEYTİN", u"deniz", u"+-"_s, u"deniz"_s, 49, u"4 / 4, sondan"_s);
+        row("dotless", u"IŞIK", u"ışık", u"++"_s, u"ışık"_s, 8, u"2 / 2"_s);
+        row("signs", u"ZEYTİN", u"k?y*taş", u"++"_s, u"taş"_s, 42, u"2 / 2"_s);
+        row("none", u"ZEYTİN", u"denız", u"+"_s, {}, 0, u"Yok"_s);
+        row("short word", u"ZEYTİN", u"d", u"+"_s, {}, 0, {});
+        row("no word", u"ZEYTİN", u"", u"+"_s, {}, 0, {});
+        row("no article", u"", u"deniz", u"+"_s, {}, 0, u"Yok"_s);
+        // Marking leaves the caret at its last mark; the reader sees the first one.
+        row("behind marking", u"ÇAY", u"deniz", u"b+"_s, u"deniz"_s, 9, u"1 / 3"_s);
+    }
+    void places()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, sought);
+        QFETCH(QString, keys);
+        t->Yazarlar().Text(title == u"IŞIK"_s ? u"ALİ KAYAALP"_s : u"ALİ KAYA"_s);
+        t->Makaleler().Text(title);
+        if (title.isEmpty())
+            t->Metin().Text({});
+        word().Text(sought);
+        word().setFocus();
+        const QString before = t->Metin().Text();
+        QStringList marks;
+        bildirimler.clear();
+        for (const QChar key : keys) {
+            if (key == u'b')
+                (press(u"BulButonu"_s), marks = marked());
+            else
+                QTest::keyClick(&word(), Qt::Key_F3, key == u'+' ? Qt::NoModifier : Qt::ShiftModifier);
+        }
+        const auto& notice = t->Bul<QLabel>(u"KöşeBildirimi"_s);
+        QTEST(notice.isVisible() ? notice.text() : QString(), "told");
+        QTEST(bildirimler.value(bildirimler.size() - 1), "told"); // to a screen reader
+        QTEST(t->Metin().SelText(), "selected");
+        QTEST(t->Metin().SelStart(), "start");
+        QVERIFY(word().hasFocus() && !QApplication::activeModalWidget());
+        QCOMPARE(t->Metin().Text(), before);
+        QCOMPARE(marked(), marks); // it only selects
+        word().Text(u"başka"_s);
+        QVERIFY(!notice.isVisible());
+    }
+    void placeIsSeen()
+    {
+        t->Metin().Text(u"satır\n"_s.repeated(500) + u"deniz\n"_s + u"satır\n"_s.repeated(500));
+        word().Text(u"deniz"_s);
+        QTest::keyClick(&word(), Qt::Key_F3);
+        const QRect pane = t->Metin().viewport()->rect(), line = t->Metin().cursorRect();
+        QVERIFY(qAbs(line.center().y() - pane.center().y()) <= 2 * line.height());
+        t->Metin().Text(QString(30, u' ') + u"deniz"_s); // nothing to scroll: the notice makes room
+        QTest::keyClick(&word(), Qt::Key_F3);
+        const auto& notice = t->Bul<QLabel>(u"KöşeBildirimi"_s);
+        QVERIFY(notice.isVisible());
+        QVERIFY(!notice.geometry().intersects(
+            t->Metin().cursorRect().adjusted(-pane.width(), 0, pane.width(), 0)));
     }
     void findInAll()
     {
