@@ -102,9 +102,15 @@ enum class İleti : int
     HataBildirmeAdresleri = 520,
     HakkındaBaşlığı = 530,
     DeğiştirilecekMakaleSeçiniz = 550,
+    BulKutusuTuşları = 600,
+    TümMakalelerdeBulTuşu = 605,
+    KaynağıylaKopyalaTuşu = 610,
+    ReferansToplaTuşu = 615,
     Baştan = 620,
     Sondan = 625,
     YerYok = 630,
+    KaynağıylaKopyalandı = 635,
+    ReferansPanoda = 640,
 };
 
 /// The text, letter for letter.

@@ -10,6 +10,8 @@
 #include <QScopedValueRollback>
 #include <QToolTip>
 
+#include <utility>
+
 namespace {
 
 constexpr int SatırBoşluğu = 3; // pixels between two lines of text
@@ -196,10 +198,17 @@ void ListeKutusu::mousePressEvent(QMouseEvent* olay)
         Click();
 }
 
+void ListeKutusu::keyPressEvent(QKeyEvent* olay)
+{
+    if (!olay->isAutoRepeat())
+        basılan_ = olay->key();
+    TuşOlaylı<QListView>::keyPressEvent(olay);
+}
+
 void ListeKutusu::keyReleaseEvent(QKeyEvent* olay)
 {
     QListView::keyReleaseEvent(olay);
-    if (KeyUp && !olay->isAutoRepeat())
+    if (!olay->isAutoRepeat() && std::exchange(basılan_, 0) == olay->key() && KeyUp)
         KeyUp(olay->key());
 }
 

@@ -21,7 +21,8 @@ public:
 
     /// The selected entry changed to another one, by hand or by code, or was pressed again.
     std::function<void()> Click;
-    /// A key was let go in the list; not fired by the key's repetition.
+    /// A key that was pressed in the list was let go; not fired by the key's repetition, nor where the press
+    /// has brought the list before the user.
     std::function<void(int tuş)> KeyUp;
 
     int ListCount() const;
@@ -52,6 +53,7 @@ public:
 protected:
     void currentChanged(const QModelIndex& şimdiki, const QModelIndex& önceki) override;
     void mousePressEvent(QMouseEvent* olay) override;
+    void keyPressEvent(QKeyEvent* olay) override;
     void keyReleaseEvent(QKeyEvent* olay) override;
     void focusInEvent(QFocusEvent* olay) override;
     bool viewportEvent(QEvent* olay) override;
@@ -66,5 +68,6 @@ private:
     std::unique_ptr<Model> model_;
     QString aranan_;      // what was typed to find an entry
     qint64 sonArama_ = 0; // ms of the steady clock
+    int basılan_ = 0;     // the key that was pressed here last
     bool sessiz_ = false; // the selection changes without Click
 };

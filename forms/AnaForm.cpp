@@ -174,6 +174,7 @@ void AnaForm::Form_Load()
     Altlık.setPalette(palette());
     setWindowTitle(AnaPencereBaşlığı);
     başlıklarıKoy();
+    menüTuşlarınıKur();
     pencereDurumunuOku();
     görünümAyarlarınıOku();
     GörünümüUygula();

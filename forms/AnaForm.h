@@ -93,6 +93,7 @@ private:
     void sekmeSırasıKur();
     void olaylarıBağla();
     void tuşlarıBağla();
+    void menüTuşlarınıKur();
 
     // Loading and browsing
     void Form_Load();
@@ -169,6 +170,10 @@ private:
     void YazdırMenüsü_Click();
     void WordeYapıştırMenüsü_Click();
     void yazdır();
+    void kaynağıylaKopyala();
+    void referansıTopla();
+    void menüÇubuğunaGit();
+    static void sağDüğmeMenüsünüAç();
 
     // Layout
     void Form_Resize();
@@ -211,6 +216,7 @@ private:
     qint32 AramaKonumu = 0; // where the last place was found, counted from 1; 0 begins at the beginning
     std::optional<SözcükYerleri> yerler_; // of the word in the shown text, once they were asked for
     bool imleçİşarette_ = false;          // marking has left the caret there; the reader is elsewhere
+    QStringList toplananReferanslar_;     // what was last put on the clipboard by gathering
     OdakEtiketi odakEtiketi_;
     EkleFormu* ekleFormu_ = nullptr; // while it is shown
     QString sonuçYazarı_;            // author of the shown article in the result view

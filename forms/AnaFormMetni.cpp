@@ -6,11 +6,12 @@
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "app/WordAktarımı.h"
 #include "app/İletiKutusu.h"
+#include "forms/ReferansFormu.h"
 #include "forms/YazıcıSeçmeFormu.h"
 #include "system/Yazıcılar.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QScopeGuard>
 
 void AnaForm::metinOlaylarınıBağla()
@@ -50,6 +51,36 @@ void AnaForm::KopyalaMenüsü_Click()
         if (!MakaleMetniKutusu.document()->isEmpty())
             QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText());
     });
+}
+
+void AnaForm::kaynağıylaKopyala()
+{
+    if (MakaleMetniKutusu.SelLength() == 0)
+        return;
+    const bool tamam = İlkHatadaBit([this] {
+        const QString kaynak = ReferansFormu::Referans(SeçiliMakale());
+        QGuiApplication::clipboard()->setText(MakaleMetniKutusu.SelText() + u'\n' + kaynak);
+        bildirim_.Göster(Metin(İleti::KaynağıylaKopyalandı));
+    });
+    if (!tamam)
+        QApplication::beep();
+}
+
+// What the user has copied otherwise begins a new gathering: adding to it would mix the two.
+void AnaForm::referansıTopla()
+{
+    const bool tamam = İlkHatadaBit([this] {
+        const QString satır = ReferansFormu::Referans(SeçiliMakale());
+        QClipboard& pano = *QGuiApplication::clipboard();
+        if (pano.text() != toplananReferanslar_.join(u'\n'))
+            toplananReferanslar_.clear();
+        if (!toplananReferanslar_.contains(satır))
+            toplananReferanslar_.append(satır);
+        pano.setText(toplananReferanslar_.join(u'\n'));
+        bildirim_.Göster(QString::number(toplananReferanslar_.size()) + u' ' + Metin(İleti::ReferansPanoda));
+    });
+    if (!tamam)
+        QApplication::beep();
 }
 
 void AnaForm::YazdırMenüsü_Click()

@@ -67,11 +67,16 @@ void ReferansFormu::yerleştir()
 
 void ReferansFormu::Form_Load(const QString& başlık)
 {
+    ReferansBilgisiKutusu.Text(Referans(başlık));
+}
+
+QString ReferansFormu::Referans(const QString& başlık)
+{
     Recordset kayıtlar = Veritabanı->OpenRecordset(
         QStringLiteral("SELECT * FROM [Makaleler] WHERE [MakaleBasligi]= '") + başlık + u'\'');
     Makale makale = Makale::KünyesiniOku(kayıtlar);
     makale.Başlık = başlık;
-    ReferansBilgisiKutusu.Text(Referans(makale));
+    return Referans(makale);
 }
 
 QString ReferansFormu::Referans(const Makale& makale)

@@ -18,6 +18,8 @@ public:
     /// "Given Names Surname, "Title", Place, Date". The surname is the last word of the author's name; a
     /// name of one word stands alone. Without a date the line ends with the place.
     static QString Referans(const Makale& makale);
+    /// The reference of the first article with this title; throws where there is none.
+    static QString Referans(const QString& başlık);
 
 private:
     void kontrolleriKur();

@@ -10,9 +10,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -54,6 +58,8 @@ private slots:
     void windows_data();
     void windows();
     void sharedLetter();
+    void keys_data();
+    void keys();
     void exitQuestion();
     void exitSaves_data();
     void exitSaves();
@@ -311,6 +317,88 @@ void TestMainWindow::windows()
             İletiGöster(u"Deneme"_s, İletiSimgesi::Bilgi, İletiDüğmeleri::Tamam);
             QCOMPARE(box.Sayı, 1);
         }));
+}
+
+void TestMainWindow::keys_data()
+{
+    QTest::addColumn<QString>("from"); // where the focus is
+    QTest::addColumn<QKeySequence>("key");
+    QTest::addColumn<QString>("word");    // in the word's box
+    QTest::addColumn<QString>("article"); // that is selected
+    QTest::addColumn<QString>("effect");  // the window or menu that opens, or where the focus goes
+    const auto row = [](const char* name, QStringView from, const QKeySequence& key, QStringView word,
+                        QStringView article, QStringView effect) {
+        QTest::newRow(name) << from.toString() << key << word.toString() << article.toString()
+                            << effect.toString();
+    };
+    constexpr QStringView titles = u"MakaleListesi", authors = u"YazarListesi", text = u"MakaleMetniKutusu",
+                          word = u"BulKutusu";
+    const QKeySequence find(Qt::CTRL | Qt::Key_F), all(Qt::CTRL | Qt::SHIFT | Qt::Key_F), edit(Qt::Key_F2),
+        add(Qt::CTRL | Qt::Key_N), remove(Qt::Key_Delete), print(Qt::CTRL | Qt::Key_P), bar(Qt::Key_F10),
+        menu(Qt::SHIFT | Qt::Key_F10);
+    row("word", authors, find, u"", u"ARI", word);
+    row("find in all", word, all, u"arı", u"ARI", titles);
+    row("find in all, no word", word, all, u"", u"ARI", word);
+    row("add", text, add, u"x", u"ARI", u"EkleFormu");
+    row("edit", word, edit, u"", u"ZEYTİN", u"DeğiştirFormu ZEYTİN");
+    row("edit, none selected", authors, edit, u"", u"",
+        u"Lütfen, değişikilik yapmak istediğiniz makaleyi listeden seçeniz!");
+    row("delete", titles, remove, u"", u"ZEYTİN", u"SilFormu ZEYTİN");
+    row("delete elsewhere", authors, remove, u"", u"ZEYTİN", authors);
+    row("delete a letter", word, remove, u"xy", u"ZEYTİN", word);
+    row("print", titles, print, u"", u"ARI",
+        u"Bilgisayarınızda yüklü bir YAZICI yok!\n\nLütfen, bir yazıcı yükleyip tekrar deneyiniz.");
+    row("print, none shown", titles, print, u"", u"", titles);
+    row("menu bar", text, bar, u"", u"ARI", u"AnaForm");
+    row("menu of titles", titles, menu, u"", u"ARI", u"MakaleMenüsü");
+    row("menu of titles, none selected", titles, menu, u"", u"", titles);
+    row("menu of the text", text, menu, u"", u"ARI", u"MakaleMetniMenüsü");
+    row("menu of authors", authors, menu, u"", u"ARI", authors);
+}
+
+void TestMainWindow::keys()
+{
+    QFETCH(QString, from);
+    QFETCH(QKeySequence, key);
+    QFETCH(QString, word);
+    QFETCH(QString, article);
+    qputenv("CUPS_SERVER", "/nonexistent/sock"); // this machine may have a printer
+    t->Göster();
+    QVERIFY(QTest::qWaitForWindowActive(t->Form.get(), BeklemeSınırı));
+    t->Makaleler().Text(article);
+    if (article.isEmpty())
+        t->Metin().Text({});
+    t->Bul<MetinKutusu>(u"BulKutusu"_s).Text(word);
+    t->Bul<QWidget>(from).setFocus();
+    QString effect;
+    KutuYanıtlayıcı box(KutuYanıtlayıcı::Yanıt::Tamam);
+    QTimer::singleShot(0, t->Form.get(), [&] { // the window's own loop runs this
+        auto* window = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!window || qobject_cast<QMessageBox*>(window))
+            return;
+        effect = window->objectName();
+        if (const auto* title = window->findChild<QLineEdit*>(u"MakaleBaşlığıKutusu"_s);
+            title && title->isEnabled())
+            effect += u' ' + title->text();
+        if (auto* titles = window->findChild<QListView*>(u"MakaleListesi"_s)) {
+            effect += u' ' + titles->currentIndex().data().toString();
+            QTest::keyRelease(titles, Qt::Key(key[0].key())); // of the press that brought it: deletes nothing
+        }
+        window->reject();
+    });
+    QTest::keySequence(&t->Bul<QWidget>(from), key);
+    if (effect.isEmpty())
+        effect = box.Metin;
+    if (QWidget* menu = QApplication::activePopupWidget(); menu && effect.isEmpty()) {
+        effect = menu->objectName();
+        menu->close();
+    }
+    if (effect.isEmpty())
+        effect = QApplication::focusWidget() == t->Form->menuBar()
+                     ? t->Form->objectName()
+                     : QApplication::focusWidget()->objectName();
+    QTEST(effect, "effect");
+    QCOMPARE(box.Sayı, int(effect == box.Metin));
 }
 
 // The authors' caption and the menu entry of the settings have the same letter underlined.

@@ -65,6 +65,42 @@ private slots:
         entry(u"KopyalaMenüsü"_s).trigger(); // of an empty pane: the clipboard stays as it is
         QCOMPARE(QApplication::clipboard()->text(), u"önce"_s);
     }
+    void copyWithSource()
+    {
+        const auto pressed = [&] {
+            QTest::keySequence(&t->Metin(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+            return QApplication::clipboard()->text();
+        };
+        QApplication::clipboard()->setText(u"önce"_s);
+        QCOMPARE(pressed(), u"önce"_s); // nothing is selected
+        t->Metin().Seç(4, 7);
+        QCOMPARE(pressed(), u"satır\n\t\n"_s + İlkReferans);
+        t->Makaleler().ListIndex(-1); // what is shown has no source now
+        QApplication::clipboard()->setText(u"önce"_s);
+        t->Metin().Seç(4, 5);
+        QCOMPARE(pressed(), u"önce"_s);
+    }
+    void gatherReferences()
+    {
+        const QString second = u"Tek-ad, \"Ad\", Ankara, Şubat 2003"_s,
+                      third = u"Zeki Su, \"Tarihsiz\", kuzey VAN"_s;
+        const auto press = [&](int author) {
+            t->Yazarlar().ListIndex(author);
+            QTest::keySequence(&t->Yazarlar(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+            return QApplication::clipboard()->text().split(u'\n');
+        };
+        QApplication::clipboard()->setText(u"başka"_s);
+        QCOMPARE(press(0), QStringList{İlkReferans}); // in its place
+        QCOMPARE(press(1), QStringList({İlkReferans, second}));
+        QCOMPARE(press(2), QStringList({İlkReferans, second, third}));
+        QCOMPARE(t->Etiket(u"KöşeBildirimi"_s), u"3 referans panoda"_s);
+        QCOMPARE(press(1), QStringList({İlkReferans, second, third}));    // is there already
+        QApplication::clipboard()->setText(İlkReferans + u'\n' + second); // copied meanwhile: a new gathering
+        QCOMPARE(press(2), QStringList{third});
+        t->Makaleler().ListIndex(-1);
+        QTest::keySequence(&t->Makaleler(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+        QCOMPARE(QApplication::clipboard()->text(), third);
+    }
     void noPrinter()
     {
         qputenv("CUPS_SERVER", "/nonexistent/sock"); // this machine may have a printer
