@@ -157,6 +157,7 @@ private slots:
         row("back over the beginning", u"ZEYTİN", u"deniz", u"+-"_s, u"deniz"_s, 49, u"4 / 4, sondan"_s);
         row("dotless", u"IŞIK", u"ışık", u"++"_s, u"ışık"_s, 8, u"2 / 2"_s);
         row("signs", u"ZEYTİN", u"k?y*taş", u"++"_s, u"taş"_s, 42, u"2 / 2"_s);
+        row("the only one again", u"IŞIK", u"köşe", u"++"_s, u"köşe"_s, 28, u"1 / 1, baştan"_s);
         row("none", u"ZEYTİN", u"denız", u"+"_s, {}, 0, u"Yok"_s);
         row("short word", u"ZEYTİN", u"d", u"+"_s, {}, 0, {});
         row("no word", u"ZEYTİN", u"", u"+"_s, {}, 0, {});
