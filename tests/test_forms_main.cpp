@@ -190,7 +190,7 @@ void TestMainWindow::layout_data()
     QTest::newRow("small letters") << 7.0 << QSize(100, 100) << QSize(648, 480);
     QTest::newRow("10 points") << 10.0 << QSize(100, 100) << QSize(720, 533);
     QTest::newRow("11 points") << 11.0 << QSize(900, 700) << QSize(900, 700);
-    QTest::newRow("larger than fits the screen") << 30.0 << QSize(100, 100) << QSize(800, 593);
+    QTest::newRow("larger than fits the screen") << 30.0 << QSize(100, 100) << QSize(792, 587);
 }
 
 void TestMainWindow::layout()
