@@ -121,10 +121,6 @@ void AnaForm::menüleriKur()
         {&İçindekilerMenüsü, &DizinMenüsü, &MenüÇizgisi3, &HatalarıBildirinMenüsü, &HakkındaMenüsü});
     MakaleMetniMenüsü.addActions({&TümünüSeçMenüsü, &KopyalaMenüsü, &YazdırMenüsü, &WordeYapıştırMenüsü,
                                   &MenüÇizgisi2, &AyarlarMenüsü1});
-
-    // Nothing answers these yet.
-    for (QAction* öğe : {&İçindekilerMenüsü, &DizinMenüsü})
-        öğe->setEnabled(false);
 }
 
 void AnaForm::sekmeSırasıKur()

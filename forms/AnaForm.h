@@ -155,6 +155,8 @@ private:
     void MakeleDeğiştirMenüsü_Click();
     void MakaleSilMenüsü_Click();
     void ReferansOluşturMenüsü_Click();
+    void İçindekilerMenüsü_Click();
+    void DizinMenüsü_Click();
     void HatalarıBildirinMenüsü_Click();
     void HakkındaMenüsü_Click();
     void değişeniSeç();

@@ -13,6 +13,7 @@
 #include "forms/HataBildirmeFormu.h"
 #include "forms/ReferansFormu.h"
 #include "forms/SilFormu.h"
+#include "forms/Yardım.h"
 
 #include <QMenuBar>
 #include <QScopeGuard>
@@ -26,6 +27,8 @@ void AnaForm::menüOlaylarınıBağla()
     connect(&AyarlarMenüsü, &QAction::triggered, this, &AnaForm::AyarlarMenüsü_Click);
     connect(&AyarlarMenüsü1, &QAction::triggered, this, &AnaForm::AyarlarMenüsü1_Click);
     new OrtakHarf(*menuBar(), AyarlarMenüsü, Etiket[0], YazarListesi); // both captions underline the Y
+    connect(&İçindekilerMenüsü, &QAction::triggered, this, &AnaForm::İçindekilerMenüsü_Click);
+    connect(&DizinMenüsü, &QAction::triggered, this, &AnaForm::DizinMenüsü_Click);
     connect(&HatalarıBildirinMenüsü, &QAction::triggered, this, &AnaForm::HatalarıBildirinMenüsü_Click);
     connect(&HakkındaMenüsü, &QAction::triggered, this, &AnaForm::HakkındaMenüsü_Click);
 }
@@ -91,6 +94,16 @@ void AnaForm::AyarlarMenüsü_Click()
 void AnaForm::AyarlarMenüsü1_Click()
 {
     İlkHatadaBit([this] { AyarlarFormu(*this).exec(); });
+}
+
+void AnaForm::İçindekilerMenüsü_Click()
+{
+    İlkHatadaBit([] { Yardım::İçindekileriAç(); });
+}
+
+void AnaForm::DizinMenüsü_Click()
+{
+    İlkHatadaBit([] { Yardım::DiziniAç(); });
 }
 
 void AnaForm::HatalarıBildirinMenüsü_Click()

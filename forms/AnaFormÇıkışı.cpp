@@ -8,6 +8,7 @@
 #include "app/PencereYeri.h"
 #include "app/İletiKutusu.h"
 #include "forms/EkleFormu.h"
+#include "forms/Yardım.h"
 #include "system/EkranÖlçüsü.h"
 
 #include <QCloseEvent>
@@ -61,6 +62,7 @@ bool AnaForm::Form_QueryUnload(KapanışNedeni neden)
 void AnaForm::oturumuBitir()
 {
     bitti_ = true;
+    Yardım::Kapat();
     ++doldurma_; // a filling under way must not go on
     Sınırla.stop();
     const PencereDurumu durum = pencereDurumu();

@@ -10,6 +10,7 @@
 #include "app/İletiKutusu.h"
 #include "forms/AnaForm.h"
 #include "forms/KarşılamaFormu.h"
+#include "forms/Yardım.h"
 #include "store/MakaleKitaplığı.h"
 #include "store/VeritabanıHatası.h"
 #include "system/BelgeAktarımı.h"
@@ -110,14 +111,17 @@ void oturumSonunuBağla(QApplication& uygulama, AnaForm& form)
 
 int SubMain(QApplication& uygulama)
 {
-    // Both outlive an error report: a second start brings it forward, and the splash stays behind it.
+    // They outlive an error report: a second start brings it forward, F1 explains it, and the splash stays
+    // behind it.
     std::optional<TekÖrnek> tekÖrnek;
     std::optional<KarşılamaFormu> karşılama;
+    std::optional<Yardım> yardım;
     return HatadaÇık([&] {
         DiliKur();
         FormÖlçüsünüKur(uygulama.font(), {AnaForm::EnAzGenişlik, AnaForm::EnAzYükseklik});
         uygulama.setFont(FormYazıTipi());
         const PencereYerleştirici yerleştirici(uygulama);
+        yardım.emplace(uygulama);
         uygulama.setQuitOnLastWindowClosed(false); // the exit sequence ends the program
         AnaPencereBaşlığı =
             QStringLiteral("Tepsan Yazılım - ") + Metin(İleti::ProgramAdı) + u' ' + SürümMetni();

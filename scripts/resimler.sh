@@ -170,6 +170,11 @@ window "Hataları Bildirin!"
 picture hata-bildirme
 key Escape
 window "$caption"
+key F1
+window "Kullanım Kılavuzu"
+picture yardim 420
+key Escape
+window "$caption"
 key Escape
 window Belgenar
 picture cikis-sorusu
