@@ -43,9 +43,9 @@ update_desktop_database_if_there() {
     fi
 }
 
-# menu_add FOLDER: puts entry, pictures and the companion's manual page into the user's data folder.
+# menu_add FOLDER: puts entry, pictures, both manual pages and the guide into the user's data folder.
 menu_add() {
-    local program=$1/belgenar text picture size
+    local program=$1/belgenar text picture size file
     [[ $program != *[[:cntrl:]]* ]] && iconv -f UTF-8 -t UTF-8 <<<"$program" >/dev/null 2>&1 \
         || die "Klasörün yolunda menü girişine yazılamayan bir karakter var: $(printf %q "$1")"
     find_data_folder
@@ -57,7 +57,12 @@ menu_add() {
         put "$picture" "icons/hicolor/${size}x$size/apps/$DESKTOP_ID.png"
     done
     put resources/simgeler/belgenar.svg "icons/hicolor/scalable/apps/$DESKTOP_ID.svg"
-    put resources/masaustu/belgenar-kitaplik.1 man/man1/belgenar-kitaplik.1
+    for file in resources/masaustu/*.1; do
+        put "$file" "man/man1/${file##*/}"
+    done
+    for file in docs/kılavuz.md docs/resim/*.png; do
+        put "$file" "doc/belgenar/${file#docs/}"
+    done
     put "$text" "applications/$DESKTOP_ID.desktop" # last: its picture is there when the desktop sees it
     rm -f "$text"
     touch "$data/icons/hicolor" # tells that an icon cache is out of date
@@ -76,7 +81,8 @@ menu_remove() {
             || die "Menüdeki giriş başka bir klasördeki programı açıyor; ona dokunulmadı: $other"
     fi
     local -a there=()
-    for path in "$entry" "$data"/icons/hicolor/*/apps/"$DESKTOP_ID".{png,svg} "$data/man/man1/belgenar-kitaplik.1"; do
+    for path in "$entry" "$data"/icons/hicolor/*/apps/"$DESKTOP_ID".{png,svg} \
+        "$data"/man/man1/belgenar{,-kitaplik}.1 "$data"/doc/belgenar/{kılavuz.md,resim/*.png}; do
         [ ! -e "$path" ] && [ ! -L "$path" ] || there+=("$path")
     done
     [ ${#there[@]} -gt 0 ] || { echo "Belgenar menüde yok; kaldırılacak bir şey bulunmadı."; return 0; }

@@ -27,10 +27,11 @@ listing() { (cd "$1" && find . -printf '%P %y %l\n' | sort; find . -type f -exec
 source=resources/masaustu
 check_with desktop-file-validate "masaüstü girişi geçerlidir" desktop-file-validate "$source/$id.desktop"
 check_with appstreamcli "tanıtım bilgisi geçerlidir" appstreamcli validate --no-net --pedantic "$source/$id.metainfo.xml"
-check_with mandoc "kılavuz sayfası geçerlidir" mandoc -Tlint -Wwarning "$source/belgenar-kitaplik.1"
+check_with mandoc "kılavuz sayfaları geçerlidir" mandoc -Tlint -Wwarning "$source/belgenar.1" "$source/belgenar-kitaplik.1"
 version=$(sed -n 's/^project(.*VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 check "tanıtım bilgisi bu sürümü sayar" grep -q "<release version=\"$version\"" "$source/$id.metainfo.xml"
-check "kılavuz bu sürümündür" grep -q "^\.TH .*\"Belgenar $version\"" "$source/belgenar-kitaplik.1"
+both_pages() { [ "$(grep -l "^\.TH .*\"Belgenar $version\"" "$source"/*.1 | wc -l)" = 2 ]; }
+check "kılavuz sayfaları bu sürümündür" both_pages
 help_in_page() { # each of the tool's commands has an entry of its own
     local name names
     names=$("$build/tools/belgenar-kitaplik" --yardım | sed -n 's/^  belgenar-kitaplik \([^ ]*\).*/\1/p')
@@ -44,7 +45,7 @@ check "kılavuz aracın her komutunu anlatır" help_in_page
 # The checkout in a folder with all that Exec must quote.
 place="$work/Ağır %100 %f \"iş\" 'x' \`y\` \$HOME \\son = şu;&"
 mkdir -p "$place" "$data/applications" "$data/icons/hicolor/48x48/apps"
-cp -r run scripts resources "$place/"
+cp -r run scripts resources docs "$place/"
 echo other >"$data/icons/hicolor/48x48/apps/other.png"
 cp "$source/$id.desktop" "$data/applications/other.desktop"
 cmake --install "$build" --prefix "$work/Belgenar" >/dev/null # itself knows no such folders
@@ -58,7 +59,13 @@ check_with desktop-file-validate "konan giriş geçerlidir" desktop-file-validat
 check "her boyda simge konur" equal "$(find "$data/icons" -name "$id.*" | wc -l)" \
     "$(($(find resources/simgeler -name 'belgenar-[0-9]*.png' | wc -l) + 1))"
 check "simge yerindedir" cmp resources/simgeler/belgenar-24.png "$data/icons/hicolor/24x24/apps/$id.png"
-check "kılavuz konur" cmp "$source/belgenar-kitaplik.1" "$data/man/man1/belgenar-kitaplik.1"
+pages_there() { diff <(cat "$source"/*.1) <(cat "$data"/man/man1/*.1); }
+check "kılavuz sayfaları konur" pages_there
+guide_there() { # with every picture that it shows
+    cmp docs/kılavuz.md "$data/doc/belgenar/kılavuz.md" \
+        && (cd "$data/doc/belgenar" && grep -o 'resim/[^)]*' kılavuz.md | xargs ls)
+}
+check "kullanım kılavuzu resimleriyle konur" guide_there
 listing "$data" >"$work/kurulu"
 check "--kur yinelenebilir" "$place/run" --kur
 check "ikinci --kur bir şey değiştirmez" cmp "$work/kurulu" <(listing "$data")
