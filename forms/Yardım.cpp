@@ -109,7 +109,7 @@ void Yardım::konuyuAç(const QWidget& kontrol)
     const auto* kutu = qobject_cast<const QMessageBox*>(kontrol.window());
     if (kutu && iletiyiAç(*kutu))
         return;
-    if (const int bölüm = form().Metin().BölümBul(Konu(kontrol)); bölüm >= 0)
+    if (const int bölüm = form().Yapı().BölümBul(Konu(kontrol)); bölüm >= 0)
         form().BölümüGöster(bölüm);
     else
         form().İçindekileriGöster();
@@ -119,7 +119,7 @@ bool Yardım::iletiyiAç(const QMessageBox& kutu)
 {
     static const QRegularExpression numara(QRegularExpression::escape(Metin(İleti::HataKodu)) +
                                            QStringLiteral(" (\\d+)"));
-    const Kılavuz& kılavuz = form().Metin();
+    const Kılavuz& kılavuz = form().Yapı();
     const auto kod = numara.match(kutu.text());
     const Kılavuz::Terim* terim = kod.hasMatch() ? kılavuz.NumaraBul(kod.captured(1).toInt()) : nullptr;
     if (!terim)

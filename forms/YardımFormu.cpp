@@ -27,8 +27,8 @@ namespace {
 constexpr int OlağanGenişlik = 14400; // twips
 constexpr int OlağanYükseklik = 10200;
 constexpr int SolGenişlik = 4200;
-constexpr int BulGenişliği = 2700;
-constexpr double MetinBoyu = 10; // points
+constexpr int BulGenişliği = 1500; // at least
+constexpr double MetinBoyu = 10;   // points
 
 const QString kılavuzKlasörü = QStringLiteral(":/belgenar/");
 
@@ -63,8 +63,8 @@ YardımFormu::YardımFormu() : kılavuz_(kılavuzMetni())
     kontrolleriKur();
     yerleştir();
     TürkçeKarakterKümesiUygula(*this);
-    MetinKutusu_.setFont(FormYazıTipi(MetinBoyu));
-    MetinKutusu_.Yükle(kılavuzMetni(), kılavuzKlasörü);
+    KılavuzKutusu.setFont(FormYazıTipi(MetinBoyu));
+    KılavuzKutusu.Yükle(kılavuzMetni(), kılavuzKlasörü);
     içindekileriDoldur();
     DizinKutusu_Change();
     olaylarıBağla();
@@ -86,7 +86,7 @@ void YardımFormu::kontrolleriKur()
     adlandır(GeriButonu, QStringLiteral("GeriButonu"), geriİpucu);
     adlandır(İleriButonu, QStringLiteral("İleriButonu"), ileriİpucu);
     adlandır(SonrakiButonu, QStringLiteral("SonrakiButonu"), sonrakiİpucu);
-    adlandır(MetinKutusu_, QStringLiteral("KılavuzKutusu"));
+    adlandır(KılavuzKutusu, QStringLiteral("KılavuzKutusu"));
 
     EtiketiKur(Etiket[0], 0, İleti::Bul, BulKutusu);
     EtiketiKur(Etiket[1], 1, aranacakYazısı);
@@ -98,7 +98,7 @@ void YardımFormu::kontrolleriKur()
     SonrakiButonu.setText(sonrakiYazısı);
     İçindekilerAğacı.setAccessibleName(SadeMetin(İleti::İçindekilerMenüsü));
     DizinListesi.setAccessibleName(SadeMetin(İleti::DizinMenüsü));
-    MetinKutusu_.setAccessibleName(başlık);
+    KılavuzKutusu.setAccessibleName(başlık);
 
     İçindekilerAğacı.setHeaderHidden(true);
     DizinKutusu.setClearButtonEnabled(true);
@@ -113,24 +113,25 @@ void YardımFormu::yerleştir()
     dizin->addWidget(&Etiket[1]);
     dizin->addWidget(&DizinKutusu);
     dizin->addWidget(&DizinListesi);
+    Sayfalar.setUsesScrollButtons(false);
     Sayfalar.addTab(&İçindekilerAğacı, SadeMetin(İleti::İçindekilerMenüsü));
     Sayfalar.addTab(&dizinSayfası_, SadeMetin(İleti::DizinMenüsü));
 
     auto* üst = new QHBoxLayout;
     üst->addWidget(&GeriButonu);
     üst->addWidget(&İleriButonu);
-    üst->addStretch();
+    üst->addStretch(1);
     üst->addWidget(&Etiket[2]);
     üst->addWidget(&Etiket[0]);
     BulKutusu.setMinimumWidth(FormPikseli(BulGenişliği));
-    üst->addWidget(&BulKutusu);
+    üst->addWidget(&BulKutusu, 1);
     üst->addWidget(&SonrakiButonu);
 
     auto* sağ = new QWidget;
     auto* metin = new QVBoxLayout(sağ);
     metin->setContentsMargins({});
     metin->addLayout(üst);
-    metin->addWidget(&MetinKutusu_);
+    metin->addWidget(&KılavuzKutusu);
 
     Bölme.addWidget(&Sayfalar);
     Bölme.addWidget(sağ);
@@ -151,11 +152,11 @@ void YardımFormu::olaylarıBağla()
     connect(&GeriButonu, &QPushButton::clicked, this, &YardımFormu::GeriButonu_Click);
     connect(&İleriButonu, &QPushButton::clicked, this, &YardımFormu::İleriButonu_Click);
     connect(&SonrakiButonu, &QPushButton::clicked, this, [this] { sonrakiniBul(1); });
-    MetinKutusu_.Bağlantı = [this](const QString& çapa) {
+    KılavuzKutusu.Bağlantı = [this](const QString& çapa) {
         if (const int bölüm = kılavuz_.BölümBul(çapa); bölüm >= 0)
-            git(MetinKutusu_.BaşlıkYeri(bölüm));
+            git(KılavuzKutusu.BaşlıkYeri(bölüm));
     };
-    MetinKutusu_.Kaydı = [this] { bölümüİşaretle(); };
+    KılavuzKutusu.Kaydı = [this] { bölümüİşaretle(); };
     connect(&BulKutusu, &QLineEdit::returnPressed, this, [this] { sonrakiniBul(1); });
     connect(&DizinKutusu, &QLineEdit::returnPressed, this, [this] { DizinListesi.ListIndex(0); });
 
@@ -195,7 +196,7 @@ void YardımFormu::İçindekilerAğacı_Click()
 {
     const auto sıra = static_cast<int>(dallar_.indexOf(İçindekilerAğacı.currentItem()));
     if (sıra >= 0)
-        git(MetinKutusu_.BaşlıkYeri(sıra));
+        git(KılavuzKutusu.BaşlıkYeri(sıra));
 }
 
 QString YardımFormu::terimYazısı(const Kılavuz::Terim& terim) const
@@ -234,8 +235,8 @@ void YardımFormu::DizinListesi_Click()
 // The first place at or below what is seen, else the first of all.
 void YardımFormu::BulKutusu_Change()
 {
-    bulunanlar_ = MetinKutusu_.Bul(BulKutusu.Text());
-    const int baş = MetinKutusu_.textCursor().selectionStart();
+    bulunanlar_ = KılavuzKutusu.Bul(BulKutusu.Text());
+    const int baş = KılavuzKutusu.textCursor().selectionStart();
     bulunanSırası_ = std::lower_bound(bulunanlar_.begin(), bulunanlar_.end(), baş) - bulunanlar_.begin() - 1;
     sonrakiniBul(1);
 }
@@ -250,23 +251,23 @@ void YardımFormu::sonrakiniBul(int adım)
     const qsizetype sayı = bulunanlar_.size();
     bulunanSırası_ = ((bulunanSırası_ + adım) % sayı + sayı) % sayı;
     Etiket[2].setText(QStringLiteral("%1 / %2").arg(bulunanSırası_ + 1).arg(sayı));
-    MetinKutusu_.Git(bulunanlar_[bulunanSırası_], static_cast<int>(BulKutusu.Text().size()));
+    KılavuzKutusu.Git(bulunanlar_[bulunanSırası_], static_cast<int>(BulKutusu.Text().size()));
 }
 
 void YardımFormu::git(int yer, int uzunluk)
 {
     if (geçmişSırası_ >= 0)
-        geçmiş_[geçmişSırası_] = MetinKutusu_.ÜsttekiYer();
+        geçmiş_[geçmişSırası_] = KılavuzKutusu.ÜsttekiYer();
     geçmiş_.resize(++geçmişSırası_);
-    MetinKutusu_.Git(yer, uzunluk);
-    geçmiş_.append(MetinKutusu_.ÜsttekiYer());
+    KılavuzKutusu.Git(yer, uzunluk);
+    geçmiş_.append(KılavuzKutusu.ÜsttekiYer());
     düğmeleriAyarla();
 }
 
 void YardımFormu::terimeGit(const Kılavuz::Terim& terim)
 {
-    const int yer = MetinKutusu_.BölümdeBul(terim.Bölüm, terim.Yazı);
-    const bool başlıkta = yer == MetinKutusu_.BaşlıkYeri(terim.Bölüm);
+    const int yer = KılavuzKutusu.BölümdeBul(terim.Bölüm, terim.Yazı);
+    const bool başlıkta = yer == KılavuzKutusu.BaşlıkYeri(terim.Bölüm);
     git(yer, başlıkta ? 0 : static_cast<int>(terim.Yazı.size()));
 }
 
@@ -274,9 +275,9 @@ void YardımFormu::geçmişteGit(int adım)
 {
     if (geçmişSırası_ + adım < 0 || geçmişSırası_ + adım >= geçmiş_.size())
         return;
-    geçmiş_[geçmişSırası_] = MetinKutusu_.ÜsttekiYer();
+    geçmiş_[geçmişSırası_] = KılavuzKutusu.ÜsttekiYer();
     geçmişSırası_ += adım;
-    MetinKutusu_.Git(geçmiş_[geçmişSırası_]);
+    KılavuzKutusu.Git(geçmiş_[geçmişSırası_]);
     düğmeleriAyarla();
 }
 
@@ -290,7 +291,7 @@ void YardımFormu::düğmeleriAyarla()
 void YardımFormu::bölümüİşaretle()
 {
     const QSignalBlocker sessiz(İçindekilerAğacı);
-    İçindekilerAğacı.setCurrentItem(dallar_.value(MetinKutusu_.ÜsttekiBaşlık()));
+    İçindekilerAğacı.setCurrentItem(dallar_.value(KılavuzKutusu.ÜsttekiBaşlık()));
 }
 
 void YardımFormu::İçindekileriGöster()
@@ -317,7 +318,7 @@ void YardımFormu::BölümüGöster(int bölüm)
     Sayfalar.setCurrentIndex(0);
     İçindekilerAğacı.setFocus();
     aç();
-    git(MetinKutusu_.BaşlıkYeri(bölüm));
+    git(KılavuzKutusu.BaşlıkYeri(bölüm));
 }
 
 void YardımFormu::TerimiGöster(const Kılavuz::Terim& terim)
@@ -343,6 +344,8 @@ void YardımFormu::engeleBağlan()
 {
     QWindow* pencere = windowHandle();
     QWindow* engel = QGuiApplication::modalWindow();
+    if (pencere->transientParent() == engel)
+        return;
     if (engel && pencere->isAncestorOf(engel, QWindow::IncludeTransients))
         return; // the box stands over the help itself
     pencere->setTransientParent(engel);

@@ -22,7 +22,7 @@ class YardımFormu : public QWidget
 public:
     YardımFormu();
 
-    const Kılavuz& Metin() const { return kılavuz_; }
+    const Kılavuz& Yapı() const { return kılavuz_; }
 
     /// Each brings the window up and to the front.
     void İçindekileriGöster();
@@ -69,7 +69,7 @@ private:
     std::array<QLabel, 3> Etiket;
     MetinKutusu BulKutusu;
     Düğme GeriButonu, İleriButonu, SonrakiButonu;
-    KılavuzKutusu MetinKutusu_;
+    ::KılavuzKutusu KılavuzKutusu;
     QList<int> geçmiş_; // places that were at the top
     qsizetype geçmişSırası_ = -1;
     QList<int> bulunanlar_;

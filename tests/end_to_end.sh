@@ -97,6 +97,10 @@ holds() { dump | grep -F "KIŞ´IN" | grep -qF "$1"; }
 check "eklemek için açılır" start
 menu e
 check "ekleme penceresi açılır" eventually active_is "Listeye Makale Ekle..."
+key F1
+check "F1 kılavuzu açar" eventually active_is "Kullanım Kılavuzu"
+key Escape
+check "kılavuz, pencere dururken de tuş alır" eventually active_is "Listeye Makale Ekle..."
 key Return
 types "ali ığdır"; key Return
 types "kış'ın"; key Return
