@@ -7,6 +7,7 @@
 #include "app/Metinler.h"
 #include "app/PencereYeri.h"
 #include "app/İletiKutusu.h"
+#include "forms/Yardım.h"
 #include "forms/YazıcıSeçmeFormu.h"
 
 #include <QAbstractButton>
@@ -104,6 +105,7 @@ int main(int argc, char** argv)
     FormÖlçüsünüKur(font, {AnaForm::EnAzGenişlik, AnaForm::EnAzYükseklik});
     QApplication::setFont(FormYazıTipi());
     const PencereYerleştirici placing(application);
+    const Yardım help(application);
 
     AnaFormDenemesi t({{u"ALİ KAYA"_s, u"ARI"_s, u"Arı çiçekten bal yapar."_s, u"Rize"_s, u"1999"_s}});
     t.Göster();
@@ -112,6 +114,13 @@ int main(int argc, char** argv)
     measure(*t.Form, u"AnaForm, smallest"_s);
     t.Form->showMaximized();
     measure(*t.Form, u"AnaForm, largest"_s);
+    Yardım::DiziniAç();
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == u"YardımFormu"_s)
+            measure(*window, window->objectName());
+    }
+    Yardım::Kapat();
+    t.Form->activateWindow();
     t.Makaleler().ListIndex(0);
     for (const QString& name :
          {u"MakaleEkleMenüsü"_s, u"MakeleDeğiştirMenüsü"_s, u"MakaleSilMenüsü"_s, u"ReferansOluşturMenüsü"_s,
@@ -120,7 +129,9 @@ int main(int argc, char** argv)
             if (QAction* action = t.Form->findChild<QAction*>(name))
                 action->trigger();
         });
-    measureOpened(u"YazıcıSeçmeFormu"_s, [] { YazıcıSeçmeFormu({{u"Bir yazıcı"_s, u"usb://Yazan/Yazar"_s}}).exec(); });
+    measureOpened(u"YazıcıSeçmeFormu"_s, [] {
+        YazıcıSeçmeFormu({{u"Bir yazıcı"_s, u"usb://Yazan/Yazar"_s}}).exec();
+    });
     measureOpened(u"message"_s, [] {
         İletiGöster(Metin(İleti::VeritabanıYok), İletiSimgesi::Kritik, İletiDüğmeleri::Tamam);
     });
