@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -170,14 +171,24 @@ void TestHelp::guideLinks()
     for (const QString& picture : pictures)
         QVERIFY2(!QImage(u":/belgenar/"_s + picture).isNull(), qPrintable(picture));
     const Kılavuz parsed(guide);
-    const QStringList others = {u"260"_s, u"510"_s, u"600"_s, u"610"_s, u"615"_s}; // an example, a title, tips
-    for (const QString& row : read("resources/metinler.tsv").split(u'\n', Qt::SkipEmptyParts)) {
-        const QString message = row.section(u'\t', 1).replace(u"\\n"_s, u"\n"_s);
-        static const QRegularExpression sentence(u"\\S+ \\S+[^.][.!?]$"_s);
-        QVERIFY2(others.contains(row.section(u'\t', 0, 0)) || !sentence.match(message).hasMatch() ||
-                     parsed.İletiBul(message),
-                 qPrintable(message));
+    const QString table = u'\n' + read("resources/metinler.tsv"), names = read("app/Metinler.h");
+    int messages = 0;
+    for (const char* folder : {"app", "forms", "program"}) {
+        QDirIterator sources(QStringLiteral(SOURCE_FOLDER "/") + QString::fromUtf8(folder), {u"*.cpp"_s});
+        while (sources.hasNext()) {
+            const QString source =
+                read((QString::fromUtf8(folder) + u'/' + QFileInfo(sources.next()).fileName()).toUtf8());
+            for (const QString& name :
+                 found(source, u"(?:İletiGöster\\(\\s*Metin|söyle|reddet|HataMetni)\\(İleti::([^,)]+)"_s)) {
+                const QString number = found(names, u"^ +%1 = (\\d+)"_s.arg(name)).value(0);
+                const QString message = found(table, u"^%1\\t(.*)$"_s.arg(number)).value(0);
+                QVERIFY2(!message.isEmpty() && parsed.İletiBul(message.section(u"\\n"_s, 0, 0)),
+                         qPrintable(name));
+                ++messages;
+            }
+        }
     }
+    QVERIFY(messages > 15);
 }
 
 void TestHelp::windows_data()
