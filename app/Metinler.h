@@ -111,6 +111,16 @@ enum class İleti : int
     YerYok = 630,
     KaynağıylaKopyalandı = 635,
     ReferansPanoda = 640,
+    KılavuzBaşlığı = 700,
+    Geri = 705,
+    İleri = 710,
+    SonrakiYer = 715,
+    AranacakTerim = 720,
+    Geriİpucu = 725,
+    İleriİpucu = 730,
+    KılavuzdaBulİpucu = 735,
+    SonrakiYerİpucu = 740,
+    KılavuzdaYok = 745,
 };
 
 /// The text, letter for letter.

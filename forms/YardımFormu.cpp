@@ -32,18 +32,6 @@ constexpr double MetinBoyu = 10;   // points
 
 const QString kılavuzKlasörü = QStringLiteral(":/belgenar/");
 
-// These have no number in the table of texts.
-const QString başlık = QStringLiteral("Kullanım Kılavuzu");
-const QString geriYazısı = QStringLiteral("&Geri");
-const QString ileriYazısı = QStringLiteral("İ&leri");
-const QString sonrakiYazısı = QStringLiteral("&Sonraki");
-const QString aranacakYazısı = QStringLiteral("Aran&acak Terim");
-const QString geriİpucu = QStringLiteral("Önceki yere döner (Alt+Sol)");
-const QString ileriİpucu = QStringLiteral("Sonraki yere gider (Alt+Sağ)");
-const QString bulİpucu = QStringLiteral("Kılavuzda aranan (Ctrl+F)");
-const QString sonrakiİpucu = QStringLiteral("Sonraki geçtiği yer (F3), önceki (Shift+F3)");
-const QString yokYazısı = QStringLiteral("Bulunamadı");
-
 QString kılavuzMetni()
 {
     kaynaklarıBağla();
@@ -58,7 +46,7 @@ QString kılavuzMetni()
 YardımFormu::YardımFormu() : kılavuz_(kılavuzMetni())
 {
     setObjectName(QStringLiteral("YardımFormu"));
-    setWindowTitle(başlık);
+    setWindowTitle(Metin(İleti::KılavuzBaşlığı));
     setFont(FormYazıTipi());
     kontrolleriKur();
     yerleştir();
@@ -82,23 +70,21 @@ void YardımFormu::kontrolleriKur()
     adlandır(İçindekilerAğacı, QStringLiteral("İçindekilerAğacı"));
     adlandır(DizinKutusu, QStringLiteral("DizinKutusu"));
     adlandır(DizinListesi, QStringLiteral("DizinListesi"));
-    adlandır(BulKutusu, QStringLiteral("BulKutusu"), bulİpucu);
-    adlandır(GeriButonu, QStringLiteral("GeriButonu"), geriİpucu);
-    adlandır(İleriButonu, QStringLiteral("İleriButonu"), ileriİpucu);
-    adlandır(SonrakiButonu, QStringLiteral("SonrakiButonu"), sonrakiİpucu);
+    adlandır(BulKutusu, QStringLiteral("BulKutusu"), Metin(İleti::KılavuzdaBulİpucu));
+    adlandır(GeriButonu, QStringLiteral("GeriButonu"), Metin(İleti::Geriİpucu));
+    adlandır(İleriButonu, QStringLiteral("İleriButonu"), Metin(İleti::İleriİpucu));
+    adlandır(SonrakiButonu, QStringLiteral("SonrakiButonu"), Metin(İleti::SonrakiYerİpucu));
     adlandır(KılavuzKutusu, QStringLiteral("KılavuzKutusu"));
 
     EtiketiKur(Etiket[0], 0, İleti::Bul, BulKutusu);
-    EtiketiKur(Etiket[1], 1, aranacakYazısı);
-    Etiket[1].setBuddy(&DizinKutusu);
-    DizinKutusu.setAccessibleName(QString(aranacakYazısı).remove(u'&'));
+    EtiketiKur(Etiket[1], 1, İleti::AranacakTerim, DizinKutusu);
     EtiketiKur(Etiket[2], 2, QString());
-    GeriButonu.setText(geriYazısı);
-    İleriButonu.setText(ileriYazısı);
-    SonrakiButonu.setText(sonrakiYazısı);
+    GeriButonu.setText(Metin(İleti::Geri));
+    İleriButonu.setText(Metin(İleti::İleri));
+    SonrakiButonu.setText(Metin(İleti::SonrakiYer));
     İçindekilerAğacı.setAccessibleName(SadeMetin(İleti::İçindekilerMenüsü));
     DizinListesi.setAccessibleName(SadeMetin(İleti::DizinMenüsü));
-    KılavuzKutusu.setAccessibleName(başlık);
+    KılavuzKutusu.setAccessibleName(SadeMetin(İleti::KılavuzBaşlığı));
 
     İçindekilerAğacı.setHeaderHidden(true);
     DizinKutusu.setClearButtonEnabled(true);
@@ -245,7 +231,7 @@ void YardımFormu::sonrakiniBul(int adım)
 {
     SonrakiButonu.setEnabled(!bulunanlar_.isEmpty());
     if (bulunanlar_.isEmpty()) {
-        Etiket[2].setText(BulKutusu.Text().isEmpty() ? QString() : yokYazısı);
+        Etiket[2].setText(BulKutusu.Text().isEmpty() ? QString() : Metin(İleti::KılavuzdaYok));
         return;
     }
     const qsizetype sayı = bulunanlar_.size();
