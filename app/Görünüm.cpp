@@ -20,7 +20,7 @@ constexpr std::array<Renk, 6> renkler = {0xFFFFFF, 0xFF00FF, 0xFFFF00, 0x00FF00,
 
 constexpr Renk SistemRengi = 0x80000000;
 double formYazıBoyutu = OlağanYazıBoyutu;
-constexpr QSize ÇerçevePayı(8, 32); // pixels; what a window manager puts around, which isn't known before
+constexpr QSize ÇerçevePayı(8, 32);   // pixels; what a window manager puts around, which isn't known before
 constexpr double EnAzKarşıtlık = 4.5; // WCAG 2.1, success criterion 1.4.3
 constexpr float SönükYazı = 0.65F;    // opacity: black on white then has a contrast of 7
 

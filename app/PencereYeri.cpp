@@ -118,7 +118,8 @@ private:
     bool koyuyor_ = false;
 };
 
-/// Has the system keep the window over the one that is up: under Wayland no program can put its windows anywhere.
+/// Has the system keep the window over the one that is up: under Wayland no program can put its windows
+/// anywhere.
 void yakınınınYap(const QWidget& pencere)
 {
     if (const QWidget* yakını = QApplication::activeWindow(); yakını && pencere.windowHandle())

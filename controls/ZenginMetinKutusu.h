@@ -44,8 +44,8 @@ public:
     /// does not scroll.
     void SelStart(int yer);
 
-    /// Colours the given stretches of the shown copy red and makes them bold, on a ground on which red can be read,
-    /// and scrolls to the first.
+    /// Colours the given stretches of the shown copy red and makes them bold, on a ground on which red can be
+    /// read, and scrolls to the first.
     /// @param yerler ascending places at which stretches of this length begin, each with a blank
     void İşaretle(const QList<qsizetype>& yerler, qsizetype uzunluk);
 
