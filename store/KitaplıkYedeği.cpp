@@ -7,6 +7,7 @@
 #include "store/ÇalışmaGrubu.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -50,27 +51,56 @@ QStringList nesiller(const QString& hedef)
     return adlar;
 }
 
-/// Empty where the file can't be read.
-QByteArray kitaplıkTuzu(const QString& klasör)
-try {
-    return ÇalışmaGrubu(KitaplıkYolu(klasör, DosyaAdları::Grup), AçmaKipi::Oku).KitaplıkKimliği();
-} catch (const VeritabanıHatası&) {
-    return {};
+/// By what a library is known; empty where it can't be read.
+struct Kimlik
+{
+    QByteArray Grup; ///< of the workgroup file
+    QByteArray Tuz;  ///< of the library file, which all copies of it share
+};
+
+Kimlik kimliği(const QString& klasör)
+{
+    Kimlik kimlik;
+    QFile dosya(KitaplıkYolu(klasör, DosyaAdları::Kitaplık));
+    if (dosya.open(QIODevice::ReadOnly))
+        kimlik.Tuz = dosya.read(TuzBoyu);
+    try {
+        kimlik.Grup = ÇalışmaGrubu(KitaplıkYolu(klasör, DosyaAdları::Grup), AçmaKipi::Oku).KitaplıkKimliği();
+    } catch (const VeritabanıHatası&) {
+        // The library file tells, too.
+    }
+    return kimlik;
+}
+
+enum class Sahiplik
+{
+    Bizim, ///< or a generation without a library, which nobody misses
+    Başkasının,
+    Belirsiz
+};
+
+Sahiplik sahipliği(const Kimlik& nesil, const Kimlik& bizim)
+{
+    if (!nesil.Grup.isEmpty())
+        return nesil.Grup == bizim.Grup ? Sahiplik::Bizim : Sahiplik::Başkasının;
+    return nesil.Tuz.isEmpty() || nesil.Tuz == bizim.Tuz ? Sahiplik::Bizim : Sahiplik::Belirsiz;
 }
 
 /// What goes, the oldest first.
-/// @param tuz of the library whose generations these are
-QStringList silinecekler(const QString& hedef, const QString& yeni, int sakla, const QByteArray& tuz,
+/// @param bizim of the library whose generations these are
+QStringList silinecekler(const QString& hedef, const QString& yeni, int sakla, const Kimlik& bizim,
                          QStringList& notlar)
 {
     QStringList eskiler;
     for (const QString& ad : nesiller(hedef)) {
-        const QByteArray neslinTuzu = ad == yeni ? tuz : kitaplıkTuzu(hedef + u'/' + ad + u'/');
+        if (ad == yeni)
+            continue;
+        const Sahiplik kimin = sahipliği(kimliği(hedef + u'/' + ad + u'/'), bizim);
         if (önce(yeni, ad))
             notlar.append(SonrakiTarihMetni.arg(ad));
-        else if (neslinTuzu.isEmpty())
+        else if (kimin == Sahiplik::Belirsiz)
             notlar.append(KiminBelliDeğilMetni.arg(ad));
-        else if (ad != yeni && neslinTuzu == tuz)
+        else if (kimin == Sahiplik::Bizim)
             eskiler.prepend(ad);
     }
     QStringList fazlalar = eskiler.mid(0, std::max<qsizetype>(0, eskiler.size() - std::max(sakla, 1) + 1));
@@ -116,7 +146,7 @@ YedekSonucu dene(const QString& klasör, const QString& hedef, int sakla, const 
     const QString ad = BoşAd(Ön, hedef, an);
     sonuç.Yol = hedef + u'/' + ad;
     durumuYaz(ÇiftiDenetle(klasör, bildir), sonuç);
-    sonuç.Silinenler = silinecekler(hedef, ad, sakla, kitaplıkTuzu(klasör), sonuç.Notlar);
+    sonuç.Silinenler = silinecekler(hedef, ad, sakla, kimliği(klasör), sonuç.Notlar);
     return sonuç;
 }
 
@@ -132,7 +162,7 @@ YedekSonucu yap(const QString& klasör, const QString& hedef, int sakla, const S
     sonuç.Yol = hedef + u'/' + ad;
     yarım.Adlandır(sonuç.Yol);
     hedefKlasörü.Kalsın();
-    nesilleriSil(hedef, silinecekler(hedef, ad, sakla, kitaplıkTuzu(sonuç.Yol + u'/'), sonuç.Notlar), sonuç);
+    nesilleriSil(hedef, silinecekler(hedef, ad, sakla, kimliği(sonuç.Yol + u'/'), sonuç.Notlar), sonuç);
     return sonuç;
 }
 
