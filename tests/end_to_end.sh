@@ -17,11 +17,12 @@ caption="Tepsan Yazılım - Belgenar 1.00"
 program=
 
 on_failure() { import -window root "${TMPDIR:-/tmp}/belgenar-hata-$failures.png" 2>/dev/null; }
-start() { # until the main window has the keyboard
+start() { # until the main window has the keyboard, and the splash, whose end moves it for a moment, is gone
     "$folder/belgenar" >>"$work/gunluk" 2>&1 &
     program=$!
-    eventually active_is "$caption"
+    eventually active_is "$caption" && eventually splash_gone && sleep 0.3 && eventually active_is "$caption"
 }
+splash_gone() { ! xdotool search --onlyvisible --name '^Belgenar$' >/dev/null 2>&1; }
 running() { kill -0 "$program" 2>/dev/null; }
 ended() { ! running; }
 types() { xdotool type --delay 50 "$1"; }
