@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <limits>
 #include <sys/stat.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -119,8 +120,13 @@ public:
     }
     ~SonraBırakılan()
     {
-        if (no_ >= 0)
+        if (no_ < 0)
+            return;
+        try {
             std::thread([no = no_] { close(no); }).detach();
+        } catch (const std::system_error&) { // no further thread may be had
+            close(no_);
+        }
     }
     SonraBırakılan(const SonraBırakılan&) = delete;
     SonraBırakılan& operator=(const SonraBırakılan&) = delete;

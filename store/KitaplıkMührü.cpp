@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -108,8 +109,12 @@ public:
         const qint64 bloklar = (sayfalar_ + Blok - 1) / Blok;
         const unsigned işlemciler = std::clamp(std::thread::hardware_concurrency(), 1U, EnÇokİplik);
         std::vector<std::jthread> iplikler;
-        for (qint64 i = std::min<qint64>(bloklar, işlemciler); i > 1; --i)
-            iplikler.emplace_back([this] { yardımEt(); });
+        try {
+            for (qint64 i = std::min<qint64>(bloklar, işlemciler); i > 1; --i)
+                iplikler.emplace_back([this] { yardımEt(); });
+        } catch (const std::system_error&) {
+            // No further thread may be had: those that there are do it all.
+        }
         try {
             çalış(bildir);
         } catch (...) {
