@@ -135,11 +135,12 @@ private:
     int no_;
 };
 
-/// Of its own for each copy, so that no two files with the same number of changes are taken for each other.
-qint32 dosyaNo()
-{
-    return QRandomGenerator::system()->bounded(1, std::numeric_limits<qint32>::max());
-}
+// Moving a page costs about as much as copying some: with more of them free, copying all is cheaper.
+constexpr qint64 EnÇokBoşPayı = 8;
+// The library's number ends with the count of sessions.
+constexpr int OturumBitleri = 6;
+static_assert(EnÇokOturum == (1 << OturumBitleri) - 1);
+constexpr auto BoşSayfalarSql = "PRAGMA freelist_count";
 
 void kopyasınıYerineKoy(const QString& yeni, const QString& hedef, const struct stat& eski,
                         const std::function<void()>& bildir)
@@ -186,9 +187,11 @@ void GünlüğüyleKopyala(const QString& kaynak, const QString& hedef, const st
         DosyayıKopyala(GünlükYolu(QFileInfo(kaynak).canonicalFilePath()), GünlükYolu(hedef), bildir);
 }
 
-void BoşDosyaOluştur(const QString& yol, const Anahtar& anahtar)
+void BoşDosyaOluştur(const QString& yol, const Anahtar& anahtar, SayfaDüzeni düzen)
 {
     Bağlantı bağlantı(yol, anahtar, AçmaKipi::Oluştur);
+    if (düzen == SayfaDüzeni::Budanır)
+        bağlantı.Çalıştır(BudanırSql("main"));
     İşlem işlem(bağlantı);
     bağlantı.Çalıştır(TabloSql("main"));
     for (const QByteArray& sql : DizinSql("main"))
@@ -231,6 +234,7 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
     // A throw-away file until it is whole: it needs no journal of its own.
     kaynak.Sayı("PRAGMA kopya.journal_mode=OFF");
     kaynak.Çalıştır("PRAGMA kopya.synchronous=OFF");
+    kaynak.Çalıştır(BudanırSql("kopya"));
     const auto dizinleriKur = [&kaynak] {
         for (const QByteArray& sql : DizinSql("kopya"))
             kaynak.Çalıştır(sql);
@@ -246,12 +250,42 @@ qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QStri
         satırlar = kaynak.DeğişenSatır();
         if (dizinler == DizinKaynağı::Satırlar)
             dizinleriKur();
-        kaynak.Çalıştır("PRAGMA kopya.application_id=" + QByteArray::number(dosyaNo()));
+        NoVer(kaynak, 0, "kopya");
         kaynak.Çalıştır("PRAGMA kopya.user_version=" + QByteArray::number(KitaplıkSürümü));
         işlem.Onayla();
     }
     kaynak.Çalıştır("DETACH DATABASE kopya");
     return satırlar;
+}
+
+bool Budanabilir(Bağlantı& kitaplık)
+{
+    return kitaplık.Sayı("PRAGMA auto_vacuum") == BudanırKipi &&
+           kitaplık.Sayı(BoşSayfalarSql) * EnÇokBoşPayı <= kitaplık.Sayı("PRAGMA page_count");
+}
+
+bool KopyayıBuda(const QString& kopya, const Anahtar& anahtar)
+{
+    Bağlantı bağlantı(kopya, anahtar, AçmaKipi::OkuYaz);
+    if (bağlantı.Sayı(BoşSayfalarSql) == 0)
+        return false;
+    bağlantı.Sayı("PRAGMA journal_mode=OFF");
+    bağlantı.Çalıştır("PRAGMA synchronous=OFF");
+    bağlantı.Çalıştır("PRAGMA incremental_vacuum");
+    return true;
+}
+
+int DeğişenOturumlar(Bağlantı& kitaplık)
+{
+    return static_cast<int>(kitaplık.Sayı("PRAGMA application_id") & EnÇokOturum);
+}
+
+void NoVer(Bağlantı& kitaplık, int oturumlar, const QByteArray& veritabanı)
+{
+    constexpr int sayılar = (std::numeric_limits<qint32>::max() >> OturumBitleri);
+    const qint32 no =
+        (QRandomGenerator::system()->bounded(1, sayılar) << OturumBitleri) | std::min(oturumlar, EnÇokOturum);
+    kitaplık.Çalıştır("PRAGMA " + veritabanı + ".application_id=" + QByteArray::number(no));
 }
 
 SatırToplamı SatırlarıOku(Bağlantı& kitaplık)

@@ -36,9 +36,16 @@ bool YarımYazmaVar(const QString& dosya);
 void GünlüğüyleKopyala(const QString& kaynak, const QString& hedef,
                        const std::function<void(qint64)>& bildir);
 
+/// Whether a file keeps account of which page leads to which, so that its free pages can be cut out.
+enum class SayfaDüzeni
+{
+    Budanır,
+    Budanmaz ///< as earlier versions made them
+};
+
 /// Creates an empty library. Throws DosyaVar when the file exists.
 /// @param anahtar as TuzluAnahtar gives it
-void BoşDosyaOluştur(const QString& yol, const Anahtar& anahtar);
+void BoşDosyaOluştur(const QString& yol, const Anahtar& anahtar, SayfaDüzeni düzen = SayfaDüzeni::Budanır);
 
 /// Opens an existing library and makes sure that it is one. The workgroup file tells a wrong password
 /// (ParolaYanlış) from a damaged file (DosyaBozuk, DosyaYarım). Throws KitaplıkDeğil for another database,
@@ -61,6 +68,19 @@ enum class DizinKaynağı
 /// The copy is neither synced nor checked yet, and half a file
 /// on failure. Returns the number of rows.
 qint64 KitaplığıKopyala(Bağlantı& kaynak, const QString& hedef, const QString& parola, DizinKaynağı dizinler);
+
+/// Whether the free pages are so few that cutting them out costs less than copying all rows.
+bool Budanabilir(Bağlantı& kitaplık);
+/// Cuts the free pages out of a copy of a library. The copy isn't synced, and worth nothing on failure;
+/// throws DosyaBozuk where pages contradict each other.
+/// @return whether there were any
+bool KopyayıBuda(const QString& kopya, const Anahtar& anahtar);
+
+/// How many sessions have changed the library since all its rows were copied last; up to EnÇokOturum.
+int DeğişenOturumlar(Bağlantı& kitaplık);
+inline constexpr int EnÇokOturum = 63;
+/// Gives the file another number, which tells it from others, and writes that count with it.
+void NoVer(Bağlantı& kitaplık, int oturumlar, const QByteArray& veritabanı = "main");
 
 /// Reads every value of every row. Throws DosyaBozuk when one is no whole text (SağlamDeğer). Returns the
 /// rows' sum, for DizinleriDenetle.

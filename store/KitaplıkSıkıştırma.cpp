@@ -26,8 +26,10 @@ private:
     std::unique_ptr<Bağlantı> aç(const QString& yol, AçmaKipi kip) const;
     void kaynağıAç();
     SıkıştırmaSonucu kopyala();
-    bool olduğuGibiKopyala(const Mühür& mühür);
-    bool güvenerekKopyala(const Mühür& mühür);
+    bool sayfalarıAlınır(const Mühür& mühür) const;
+    bool sayfalarıKopyala(const Mühür& mühür);
+    bool kopyayıBuda();
+    bool satırlarıKopyala(const Mühür& mühür);
     YapıDurumu denetleyerekKopyala();
     YapıDurumu kopyalaVeDoğrula(DizinKaynağı dizinler);
 
@@ -37,7 +39,8 @@ private:
     std::unique_ptr<Bağlantı> asıl_;
     Anahtar anahtar_;
     std::optional<Mühür> yeniMühür_; // of the copy, where it is known
-    bool sayfaEski_ = false;         // some page is whole, but not the one that was sealed
+    Kopyanınki kopyanınki_ = Kopyanınki::YeniBaytlar;
+    bool sayfaEski_ = false; // some page is whole, but not the one that was sealed
 };
 
 SıkıştırmaSonucu Sıkıştırıcı::Sıkıştır()
@@ -75,10 +78,9 @@ SıkıştırmaSonucu Sıkıştırıcı::kopyala()
 {
     const std::optional<Mühür> mühür = grup_.KitaplıkMührü();
     if (mühür && mühür->Kimlik == DosyaKimliği(kaynak_, anahtar_)) {
-        const bool sıkı =
-            mühür->Hali == Sıkılık::Sıkı && mühür->Sıralama == QByteArray::fromStdString(SıralamaSürümü());
-        if (sıkı ? olduğuGibiKopyala(*mühür) : güvenerekKopyala(*mühür))
-            return {YapıDurumu::Sağlam, sıkı ? Kopyanınki::AynıBaytlar : Kopyanınki::YeniBaytlar};
+        if (sayfalarıAlınır(*mühür) ? sayfalarıKopyala(*mühür) : satırlarıKopyala(*mühür))
+            return {YapıDurumu::Sağlam, kopyanınki_};
+        yeniMühür_.reset();
         kaynağıAç();
         DosyayıSil(hedef_);
     }
@@ -89,9 +91,17 @@ SıkıştırmaSonucu Sıkıştırıcı::kopyala()
     return {durum, Kopyanınki::YeniBaytlar};
 }
 
-/// @return false where it is not what was sealed after all, and has to be looked through; as the next one
-bool Sıkıştırıcı::olduğuGibiKopyala(const Mühür& mühür)
+/// Whether the pages are to be taken over, but for those that nothing stands on. Now and then all rows are
+/// copied once again, so that what belongs together lies together.
+bool Sıkıştırıcı::sayfalarıAlınır(const Mühür& mühür) const
 {
+    return mühür.Sıralama == QByteArray::fromStdString(SıralamaSürümü()) &&
+           (mühür.Hali == Sıkılık::Sıkı || (DeğişenOturumlar(*asıl_) < EnÇokOturum && Budanabilir(*asıl_)));
+}
+
+/// @return false where it is not what was sealed after all, and has to be looked through; as the next one
+bool Sıkıştırıcı::sayfalarıKopyala(const Mühür& mühür)
+try {
     DosyayıKopyala(kaynak_, hedef_, [this](qint64) {
         if (bildir_)
             bildir_();
@@ -101,11 +111,26 @@ bool Sıkıştırıcı::olduğuGibiKopyala(const Mühür& mühür)
     if (!kopyadaki.Doğru || sayfaEski_)
         return false;
     yeniMühür_ = kopyadaki.Bulunan;
-    return true;
+    kopyanınki_ = Kopyanınki::AynıBaytlar;
+    return mühür.Hali == Sıkılık::Sıkı || kopyayıBuda();
+} catch (const VeritabanıHatası& hata) {
+    if (hata != HataNo::DosyaBozuk)
+        throw;
+    return false;
+}
+
+bool Sıkıştırıcı::kopyayıBuda()
+{
+    if (!KopyayıBuda(hedef_, anahtar_))
+        return true;
+    kopyanınki_ = Kopyanınki::YeniBaytlar;
+    const SayfaBulgusu budanan = SayfalarıDenetle(hedef_, anahtar_, bildir_);
+    yeniMühür_ = budanan.Bulunan;
+    return budanan.Doğru;
 }
 
 /// The pages are as SQLite wrote them last, so what it reads is what it meant.
-bool Sıkıştırıcı::güvenerekKopyala(const Mühür& mühür)
+bool Sıkıştırıcı::satırlarıKopyala(const Mühür& mühür)
 try {
     const SayfaBulgusu kaynaktaki = SayfalarıDenetle(kaynak_, anahtar_, bildir_);
     sayfaEski_ = kaynaktaki.Doğru && !kaynaktaki.Bulunan.AynıSayfalar(mühür);
@@ -178,6 +203,11 @@ void KitaplığıMühürle(const QString& yol, const QString& parola, Çalışma
 {
     if (grup.KitaplıkMührü())
         return;
-    const QByteArray tuz = KitaplıkBağlantısı(yol, parola, AçmaKipi::Oku, grup)->Tuz();
+    QByteArray tuz;
+    {
+        const auto bağlantı = KitaplıkBağlantısı(yol, parola, AçmaKipi::OkuYaz, grup);
+        NoVer(*bağlantı, DeğişenOturumlar(*bağlantı) + 1);
+        tuz = bağlantı->Tuz();
+    }
     grup.Mühürle(MühürBas(yol, TuzluAnahtar(parola.toUtf8(), tuz)));
 }

@@ -54,7 +54,8 @@ private:
     {
         if (satır.contains(u" index "))
             return YapıDurumu::DizinBozuk;
-        if (satır.contains(u"btreeInitPage() returns error") || satır.contains(u"unable to get the page"))
+        if (satır.contains(u"btreeInitPage() returns error") || satır.contains(u"unable to get the page") ||
+            satır.contains(u"Failed to read ptrmap"))
             return YapıDurumu::Okunamıyor;
         return YapıDurumu::Bozuk;
     }

@@ -90,12 +90,22 @@ void kopyala(const QString& yol, const QString& kopya, qint64 boy)
     });
 }
 
+/// In which layout a file was made whose first page is lost. Where the second one is lost as well, it says
+/// that the table's root is on that: nothing can be taken for a whole table then.
+SayfaDüzeni düzeni(QFile& dosya, const SayfaŞifresi& şifre)
+{
+    constexpr char kökünKaydı = 1; // accounts of pages begin with the page behind them, the table's root
+    const QByteArray ikinci = sayfayıOku(dosya, 2);
+    return şifre.Doğru(ikinci, 2) && şifre.Çöz(ikinci, 2).startsWith(kökünKaydı) ? SayfaDüzeni::Budanır
+                                                                                 : SayfaDüzeni::Budanmaz;
+}
+
 /// The first page of a new library.
-QByteArray yeniİlkSayfa(const QString& yol, const SayfaŞifresi& şifre)
+QByteArray yeniİlkSayfa(const QString& yol, const SayfaŞifresi& şifre, SayfaDüzeni düzen)
 {
     const GeçiciDosya geçici(yol);
     DosyayıSil(yol);
-    BoşDosyaOluştur(yol, şifre.Anahtarı());
+    BoşDosyaOluştur(yol, şifre.Anahtarı(), düzen);
     QFile dosya;
     aç(dosya, yol, QIODevice::ReadOnly);
     return şifre.Çöz(sayfayıOku(dosya, 1), 1);
@@ -216,13 +226,14 @@ KurtarmaKaynağı::KurtarmaKaynağı(const QString& yol, const QString& kopya, K
     yerlerBilinir_ = !bulgu.İlkSayfa.isEmpty();
     const qint64 beklenen = sayı(bulgu.İlkSayfa, SayfaSayısıYeri) * SayfaBoyu;
     const bool okunur = disktenOkunur(dosya_, boy);
+    const SayfaDüzeni düzen = düzeni(dosya_, *şifre_);
     QString açılan = yol;
     if (!okunur || boy != beklenen || !Anahtarı().değer.endsWith(oku(dosya_, 0, TuzBoyu))) {
         dosya_.close();
         if (kimin == Kimin::Başkasının)
             kopyala(yol, kopya, boy);
         onar(kopya, sayfalar_,
-             yerlerBilinir_ ? bulgu.İlkSayfa : yeniİlkSayfa(kopya + QStringLiteral(".ilk"), *şifre_),
+             yerlerBilinir_ ? bulgu.İlkSayfa : yeniİlkSayfa(kopya + QStringLiteral(".ilk"), *şifre_, düzen),
              *şifre_);
         aç(dosya_, kopya, QIODevice::ReadOnly);
         açılan = kopya;

@@ -1,5 +1,10 @@
 #include "store/MakaleTablosu.h"
 
+QByteArray BudanırSql(const QByteArray& veritabanı)
+{
+    return "PRAGMA " + veritabanı + ".auto_vacuum=" + QByteArray::number(BudanırKipi);
+}
+
 QByteArray TabloSql(const QByteArray& veritabanı)
 {
     return "CREATE TABLE " + veritabanı +

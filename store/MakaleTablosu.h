@@ -51,6 +51,10 @@ constexpr bool AdSütunu(MakaleSütunu sütun)
 /// Written into the file's header; a file of a higher version is refused.
 inline constexpr int KitaplıkSürümü = 1;
 
+/// The statement that has an empty database keep account of its pages, and what PRAGMA auto_vacuum then says.
+QByteArray BudanırSql(const QByteArray& veritabanı);
+inline constexpr int BudanırKipi = 2;
+
 /// The statement that creates the table in the named attached database.
 QByteArray TabloSql(const QByteArray& veritabanı);
 inline constexpr std::array<const char*, 2> DizinAdları = {"YazarDizini", "BaslikDizini"};

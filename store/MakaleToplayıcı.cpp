@@ -176,27 +176,37 @@ bool MakaleToplayıcı::al(const Deyim& deyim)
 
 void MakaleToplayıcı::dizinleriGez()
 {
-    const auto yazarlar = diziniGez(YazarDizini), başlıklar = diziniGez(BaşlıkDizini);
+    // At a place that was only guessed there may be a part of an index, or the other one: two that agree are
+    // whole. Those that don't say nothing; their pages still tell the names.
+    if (!kaynak_.YerlerBilinir() && !aynıBaşlıklar(dizinToplamı(YazarDizini), dizinToplamı(BaşlıkDizini)))
+        return;
+    const bool yazarlar = diziniGez(YazarDizini), başlıklar = diziniGez(BaşlıkDizini);
     dizinler_ = yazarlar && başlıklar;
     birDizin_ = yazarlar || başlıklar;
-    // At a place that was only guessed there may be a part of an index: two that agree are whole.
-    if (!kaynak_.YerlerBilinir())
-        birDizin_ = dizinler_ = aynıBaşlıklar(yazarlar, başlıklar);
 }
 
-/// Nothing where it can't be read whole, or isn't there.
-std::optional<SatırToplamı> MakaleToplayıcı::diziniGez(const QByteArray& sql)
+/// @return whether it is there and was read whole
+bool MakaleToplayıcı::diziniOku(const QByteArray& sql, const std::function<void(const Deyim&)>& iş)
 try {
-    SatırToplamı toplam;
-    for (Deyim deyim = sayfaDeyimi(sql); deyim.Adım();) {
-        bil(deyim);
-        toplam.Ekle({}, deyim.Baytlar(2), deyim.Sayı(0));
-    }
-    return toplam;
+    for (Deyim deyim = sayfaDeyimi(sql); deyim.Adım();)
+        iş(deyim);
+    return true;
 } catch (const VeritabanıHatası& hata) {
     if (hata != HataNo::DosyaBozuk && hata != HataNo::Sözdizimi)
         throw;
-    return {};
+    return false;
+}
+
+bool MakaleToplayıcı::diziniGez(const QByteArray& sql)
+{
+    return diziniOku(sql, [this](const Deyim& deyim) { bil(deyim); });
+}
+
+std::optional<SatırToplamı> MakaleToplayıcı::dizinToplamı(const QByteArray& sql)
+{
+    SatırToplamı toplam;
+    const auto ekle = [&](const Deyim& deyim) { toplam.Ekle({}, deyim.Baytlar(2), deyim.Sayı(0)); };
+    return diziniOku(sql, ekle) ? std::optional(toplam) : std::nullopt;
 }
 
 template<class İş> bool MakaleToplayıcı::yineleyerek(İş&& oku)
@@ -238,7 +248,7 @@ void MakaleToplayıcı::sayfalarıGez()
 {
     if (!dizinler_)
         sayfalarıGez({DizinYaprağı, DizinDalı}, DizinSayfası, [this](const QByteArray& dizin) {
-            yineleyerek([&] { return diziniGez(DizinSayfasıSorgusu(dizin)).has_value(); });
+            yineleyerek([&] { return diziniGez(DizinSayfasıSorgusu(dizin)); });
         });
     sayfalarıGez({TabloYaprağı}, TabloSayfası, [this](const QByteArray& tablo) { tabloSayfasınıGez(tablo); });
 }

@@ -52,7 +52,9 @@ private:
     void tabloyaGöre(YapıDurumu dizinler);
     bool satırıAtla(qint64& son);
     void dizinleriGez();
-    std::optional<SatırToplamı> diziniGez(const QByteArray& sql);
+    bool diziniOku(const QByteArray& sql, const std::function<void(const Deyim&)>& iş);
+    bool diziniGez(const QByteArray& sql);
+    std::optional<SatırToplamı> dizinToplamı(const QByteArray& sql);
     /// Calls for a second time where the first one was false: what was read before may be at fault.
     /// @return whether it was true
     template<class İş> bool yineleyerek(İş&& oku);

@@ -69,8 +69,8 @@ private slots:
             QByteArray bozuk = QByteArray(sağlam).replace(yer, SayfaBoyu, sayfa);
             DosyaYaz(mde, bozuk);
             kayıpBaytla += makaleler.size() - kurtar(kitaplık.Klasör(), KurtarmaKipi::Dene).Kitaplıktan;
-            DosyaYaz(mde,
-                     bozuk.replace(SayfaBoyu, SayfaBoyu, QByteArray(SayfaBoyu, '\xff'))); // the table's root
+            // What cutting out pages goes by, and the table's root.
+            DosyaYaz(mde, bozuk.replace(SayfaBoyu, 2 * SayfaBoyu, QByteArray(2 * SayfaBoyu, '\xff')));
             kayıpKöksüz += makaleler.size() - kurtar(kitaplık.Klasör(), KurtarmaKipi::Dene).Kitaplıktan;
         }
         qInfo(
@@ -115,7 +115,7 @@ private slots:
         if (olay == u"with the spare")
             sıfırla(sayfalar - 2);
         else if (olay == u"table's root" || olay == u"no accounts")
-            sıfırla(2);
+            sıfırla(3);
         else if (olay == u"cut")
             baytlar.truncate((sayfalar - 3) * SayfaBoyu);
         else if (olay == u"half a page")

@@ -32,6 +32,13 @@ class TestStoreSeal : public QObject
             kayıtlar.Update();
         }
     }
+    /// Leaves free pages behind.
+    static void sil(const Database& kitaplık)
+    {
+        for (const int no : {20, 40, 41}) // two with pages of their own, and one without
+            kitaplık.OpenRecordset(u"SELECT * FROM [Makaleler] WHERE [MakaleBasligi]='BAŞLIK %1'"_s.arg(no))
+                .Delete();
+    }
     static void düzgünKapat(Oturum& oturum) { oturum.Kapat({{}, -1, 0}); }
     static QList<Makale> açıpOku(const DenemeKitaplığı& deneme)
     {
@@ -41,6 +48,16 @@ class TestStoreSeal : public QObject
     {
         ÇalışmaGrubu açık(grup(deneme));
         iş(açık);
+    }
+    static void değiştirVeMühürle(const DenemeKitaplığı& deneme, const QList<QByteArray>& komutlar)
+    {
+        const auto bağlantı = DosyaBağlantısı(deneme.Klasör());
+        for (const QByteArray& sql : komutlar)
+            bağlantı->Çalıştır(sql);
+        DBEngine motor;
+        motor.SystemDB(grup(deneme));
+        mührüDeğiştir(deneme, [](ÇalışmaGrubu& açık) { açık.MührüKır(); });
+        VeritabanınıMühürle(motor, deneme.Klasör());
     }
 
 private slots:
@@ -52,7 +69,12 @@ private slots:
         QTest::addColumn<bool>("aynı"); // whether the next start takes the bytes over as they are
         QTest::newRow("nothing") << u"hiçbiri"_s << true;
         QTest::newRow("an orderly end") << u"kapanış"_s << true;
+        QTest::newRow("an addition and an orderly end") << u"ekleme, kapanış"_s << true;
         QTest::newRow("a change and an orderly end") << u"değişme, kapanış"_s << false;
+        QTest::newRow("a deletion and an orderly end") << u"değişme, silme, kapanış"_s << false;
+        QTest::newRow("a file with many changes") << u"kapanış, çok değişmiş"_s << false;
+        QTest::newRow("an older version's file") << u"kapanış, eski düzen"_s << false;
+        QTest::newRow("an older version's, as compacted") << u"kapanış, eski düzen, sıkı"_s << true;
         QTest::newRow("a change and a crash") << u"değişme"_s << false;
         QTest::newRow("a change that was taken back") << u"geri alma"_s << false;
         QTest::newRow("the owner's change") << u"sahip"_s << false;
@@ -70,6 +92,10 @@ private slots:
             Açılış oturum(deneme.Klasör());
             if (olay.startsWith(u"değişme") || olay == u"yedek")
                 değiştir(*oturum.Veritabanı);
+            if (olay.startsWith(u"ekleme"))
+                Ekle(*oturum.Veritabanı, {{u"YENİ YAZAR"_s, u"YENİ"_s, UzunMetin(7, 20'000)}});
+            if (olay.contains(u"silme"))
+                sil(*oturum.Veritabanı);
             if (olay == u"geri alma")
                 QCOMPARE(HataNumarası([&] {
                              oturum.Veritabanı->TekİşlemdeYap([&] {
@@ -79,9 +105,20 @@ private slots:
                          }),
                          int(HataNo::İşlemDurduruldu));
             beklenen = olay == u"yedek" ? ÖrnekMakaleler() : Makaleler(*oturum.Veritabanı);
-            if (olay.endsWith(u"kapanış") || olay == u"yedek")
+            if (olay.contains(u"kapanış") || olay == u"yedek")
                 düzgünKapat(oturum);
         }
+        const bool eskiDüzen = olay.contains(u"eski düzen");
+        if (olay.contains(u"çok değişmiş"))
+            değiştirVeMühürle(deneme, {"PRAGMA main.application_id=127"});
+        if (eskiDüzen)
+            değiştirVeMühürle(deneme, {"PRAGMA main.auto_vacuum=0", "VACUUM"});
+        if (olay.endsWith(u"sıkı"))
+            mührüDeğiştir(deneme, [](ÇalışmaGrubu& açık) {
+                Mühür sıkı = *açık.KitaplıkMührü();
+                sıkı.Hali = Sıkılık::Sıkı;
+                açık.Mühürle(sıkı);
+            });
         if (olay == u"sahip") {
             Oturum sahip;
             sahip.SahipOlarakAç(deneme.Klasör(), Oturum::Erişim::Yazma);
@@ -111,6 +148,10 @@ private slots:
             QCOMPARE(DosyaOku(kitaplık(deneme)) == eski, buSefer);
             QVERIFY(DosyaOku(kopya(deneme)) == DosyaOku(kitaplık(deneme)));
         }
+        const auto bağlantı = DosyaBağlantısı(deneme.Klasör());
+        QCOMPARE(bağlantı->Sayı("PRAGMA freelist_count"), 0);
+        QCOMPARE(bağlantı->Sayı("PRAGMA auto_vacuum"), eskiDüzen && aynı ? 0 : 2);
+        QCOMPARE(bağlantı->Metin("PRAGMA integrity_check"), u"ok"_s);
     }
 
     void everyPage_data()
@@ -130,6 +171,7 @@ private slots:
         {
             Açılış oturum(deneme.Klasör());
             değiştir(*oturum.Veritabanı);
+            sil(*oturum.Veritabanı);
             beklenen = Makaleler(*oturum.Veritabanı);
             düzgünKapat(oturum);
         }
