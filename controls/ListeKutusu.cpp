@@ -37,13 +37,12 @@ public:
             return QSize(1, liste_.fontMetrics().height() + SatırBoşluğu);
         return {};
     }
-    void ekle(const QStringList& yeni)
+    void ekle(int sıra, const QStringList& yeni)
     {
         if (yeni.isEmpty())
             return;
-        const int ilk = static_cast<int>(metinler_.size());
-        beginInsertRows({}, ilk, ilk + static_cast<int>(yeni.size()) - 1);
-        metinler_ += yeni;
+        beginInsertRows({}, sıra, sıra + static_cast<int>(yeni.size()) - 1);
+        metinler_ = metinler_.first(sıra) + yeni + metinler_.sliced(sıra);
         endInsertRows();
     }
     void değiştir(int sıra, const QString& metin)
@@ -121,7 +120,12 @@ void ListeKutusu::Item(int sıra, const QString& metin)
 
 void ListeKutusu::AddItems(const QStringList& metinler)
 {
-    model_->ekle(metinler);
+    model_->ekle(ListCount(), metinler);
+}
+
+void ListeKutusu::InsertItem(int sıra, const QString& metin)
+{
+    model_->ekle(sıra, {metin});
 }
 
 void ListeKutusu::RemoveItem(int sıra)
@@ -139,6 +143,13 @@ void ListeKutusu::Clear()
     sessiz_ = true;
     model_->boşalt();
     sessiz_ = false;
+}
+
+void ListeKutusu::SeçimsizBaşaDön()
+{
+    const QScopedValueRollback sessiz(sessiz_, true);
+    ListIndex(-1);
+    scrollToTop();
 }
 
 // The entries are in normal form C; a pasted text need not be.

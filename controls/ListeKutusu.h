@@ -40,10 +40,15 @@ public:
     void Item(int sıra, const QString& metin);
 
     void AddItems(const QStringList& metinler);
+    /// Puts an entry before another one, or at the end; fires nothing.
+    /// @param sıra 0 to ListCount
+    void InsertItem(int sıra, const QString& metin);
     /// Takes an entry away; where it was the selected one, none is selected then. Fires nothing.
     void RemoveItem(int sıra);
     /// Empties the list; fires nothing.
     void Clear();
+    /// As if the list had been emptied and filled again with what it holds; fires nothing.
+    void SeçimsizBaşaDön();
 
     /// Index of the first entry that begins with the text, without regard to case; -1 when none does.
     int ÖnekleBul(QStringView baş) const;

@@ -83,7 +83,7 @@ Kılavuz::Kılavuz(QStringView markdown)
     }
     bitir();
     std::stable_sort(terimler_.begin(), terimler_.end(), [](const Terim& bir, const Terim& iki) {
-        return TürkçeKarşılaştır(bir.Yazı.toStdString(), iki.Yazı.toStdString()) < 0;
+        return TürkçeKarşılaştır(bir.Yazı, iki.Yazı) < 0;
     });
 }
 

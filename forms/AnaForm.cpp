@@ -8,6 +8,7 @@
 #include "controls/Etiketler.h"
 #include "system/EkranÖlçüsü.h"
 #include "system/OrtakApilerModülü.h"
+#include "text/TürkçeSıralama.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -25,6 +26,9 @@ constexpr int OlağanGenişlik = 12000;  // twips
 constexpr int OlağanYükseklik = 9000;
 constexpr double EnUzakKonum = 1000000; // twips; what a stored position may be at most
 constexpr double TamEkranDeğeri = 2;
+
+const QString YazarlarSql =
+    QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler]%1 ORDER BY [YazarAdi] ASC");
 
 const QString BaşlangıçMetni = QStringLiteral(
     "Kitaplıkta henüz makale yok.\n\n"
@@ -239,14 +243,49 @@ void AnaForm::görünümAyarlarınıOku()
 
 void AnaForm::YazarListesiYükle()
 {
-    const QStringList yazarlar = SütunuOku(
-        QStringLiteral("SELECT DISTINCT [YazarAdi] FROM [Makaleler] ORDER BY [YazarAdi] ASC"), u"YazarAdi");
+    const QStringList yazarlar = SütunuOku(YazarlarSql.arg(QString()), u"YazarAdi");
     boşKitaplığıAnlat(yazarlar.isEmpty());
     if (yazarlar.isEmpty())
         return;
     YazarListesi.Clear();
     YazarListesi.AddItems(yazarlar);
     yazarToplamınıYaz();
+}
+
+void AnaForm::YazarListesiYükle(const QStringList& değişenler)
+{
+    const auto okunur = [](const QString& yazar) { return !yazar.isNull() && !yazar.contains(u'\''); };
+    if (YazarListesi.ListCount() <= 1 || !std::all_of(değişenler.begin(), değişenler.end(), okunur))
+        return YazarListesiYükle();
+    for (const QString& yazar : değişenler)
+        yazarıYenile(yazar.normalized(QString::NormalizationForm_C)); // as the library holds it
+    YazarListesi.SeçimsizBaşaDön();
+    yazarToplamınıYaz();
+}
+
+/// Brings the author's entry to what the library holds of him.
+void AnaForm::yazarıYenile(const QString& yazar)
+{
+    // Asked as all are, so that of names that differ in case only the same one is shown.
+    const QString sorgu =
+        YazarlarSql.arg(QStringLiteral(" WHERE [YazarAdi]>='%1' AND [YazarAdi]<='%1'").arg(yazar));
+    const QStringList yeni = SütunuOku(sorgu, u"YazarAdi");
+    int ilk = 0; // of the entries that don't come before him
+    for (int son = YazarListesi.ListCount(); ilk < son;) {
+        const int orta = (ilk + son) / 2;
+        if (TürkçeKarşılaştır(YazarListesi.Item(orta), yazar) < 0)
+            ilk = orta + 1;
+        else
+            son = orta;
+    }
+    const bool vardı =
+        ilk < YazarListesi.ListCount() && TürkçeKarşılaştır(YazarListesi.Item(ilk), yazar) == 0;
+    if (vardı && !yeni.isEmpty())
+        YazarListesi.Item(ilk, yeni.first());
+    else if (vardı && YazarListesi.ListCount() > 1) // an empty library leaves the list as it is
+        YazarListesi.RemoveItem(ilk);
+    else if (!yeni.isEmpty())
+        YazarListesi.InsertItem(ilk, yeni.first());
 }
 
 /// Nothing else in the window says how to begin.

@@ -62,6 +62,7 @@ public:
     bool Bitti() const { return bitti_; }
 
     void YazarListesiYükle() override;
+    void YazarListesiYükle(const QStringList& değişenler) override;
     QString SeçiliMakale() const override { return MakaleListesi.Text(); }
     void MakaleleriBoşalt() override;
     void GörünümüUygula() override;
@@ -110,6 +111,7 @@ private:
     void makaleyiGöster(const QString& metin);
     /// Whether the article list holds what a search in all articles found.
     bool sonuçGörünümü() const { return !Altlık.isEnabled(); }
+    void yazarıYenile(const QString& yazar);
     void yazarToplamınıYaz();
     void makaleToplamınıYaz();
 

@@ -59,11 +59,13 @@ void DeğiştirFormu::KaydetDüğmesi_Click()
     if (!alanlarTamam())
         return;
     Recordset kayıtlar = seçiliMakale();
+    const QString eskiYazar = Makale::KünyesiniOku(kayıtlar).Yazar;
+    const Makale makale = girilen();
     kayıtlar.Edit();
-    girilen().Yaz(kayıtlar);
+    makale.Yaz(kayıtlar);
     kayıtlar.Update();
     kayıtlar.Close();
-    ana_.YazarListesiYükle();
+    ana_.YazarListesiYükle({eskiYazar, makale.Yazar});
     DeğiştirilenYazarAdı = YazarAdıListesi.Text();
     DeğiştirilenMakaleBaşlığı = MakaleBaşlığıKutusu.Text();
     accept();

@@ -73,10 +73,11 @@ void EkleFormu::kaydet()
     düğmeleriKilitle();
     if (!eklenen_) // it could not be opened when the entry began
         yeniKayıt();
-    girilen().Yaz(*eklenen_);
+    const Makale makale = girilen();
+    makale.Yaz(*eklenen_);
     eklenen_->Update();
     eklenen_.reset();
-    ana_.YazarListesiYükle();
+    ana_.YazarListesiYükle({makale.Yazar});
     alanlarıBoşalt();
     alanlarıKilitle();
 }

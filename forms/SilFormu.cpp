@@ -196,10 +196,16 @@ bool SilFormu::silinsinMi()
 
 void SilFormu::sil()
 {
-    AdımAdım([this] { MakaleyiAç(MakaleListesi.Text()).Delete(); },
-             [this] { MakaleListesi.RemoveItem(MakaleListesi.ListIndex()); }, [this] { ayrıntılarıBoşalt(); },
-             [this] { toplamıYaz(MakaleListesi.ListCount()); }, [this] { ana_.YazarListesiYükle(); },
-             [this] { ana_.MakaleleriBoşalt(); });
+    QString yazar;
+    AdımAdım(
+        [&] {
+            Recordset kayıtlar = MakaleyiAç(MakaleListesi.Text());
+            yazar = Makale::KünyesiniOku(kayıtlar).Yazar;
+            kayıtlar.Delete();
+        },
+        [this] { MakaleListesi.RemoveItem(MakaleListesi.ListIndex()); }, [this] { ayrıntılarıBoşalt(); },
+        [this] { toplamıYaz(MakaleListesi.ListCount()); }, [&] { ana_.YazarListesiYükle({yazar}); },
+        [this] { ana_.MakaleleriBoşalt(); });
 }
 
 void SilFormu::KapatButonu_Click()

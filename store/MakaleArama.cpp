@@ -221,7 +221,7 @@ bool önce(const AramaSonucu& bir, const AramaSonucu& öteki)
 {
     if (bir.Puan != öteki.Puan)
         return bir.Puan > öteki.Puan;
-    return TürkçeKarşılaştır(bir.Bulunan.Başlık.toStdString(), öteki.Bulunan.Başlık.toStdString()) < 0;
+    return TürkçeKarşılaştır(bir.Bulunan.Başlık, öteki.Bulunan.Başlık) < 0;
 }
 
 } // namespace

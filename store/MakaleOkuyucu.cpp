@@ -119,14 +119,9 @@ std::optional<Makale> makaleyiOku(Bağlantı& kitaplık, const char* sql, qint64
 
 bool MakaleKünyesi::Önce(const MakaleKünyesi& öteki) const
 {
-    const auto karşılaştır = [](const QString& a, const QString& b) {
-        const QByteArray aUtf8 = a.toUtf8(), bUtf8 = b.toUtf8();
-        return TürkçeKarşılaştır({aUtf8.data(), std::size_t(aUtf8.size())},
-                                 {bUtf8.data(), std::size_t(bUtf8.size())});
-    };
-    if (const int yazar = karşılaştır(YazarAdi, öteki.YazarAdi); yazar != 0)
+    if (const int yazar = TürkçeKarşılaştır(YazarAdi, öteki.YazarAdi); yazar != 0)
         return yazar < 0;
-    if (const int başlık = karşılaştır(MakaleBasligi, öteki.MakaleBasligi); başlık != 0)
+    if (const int başlık = TürkçeKarşılaştır(MakaleBasligi, öteki.MakaleBasligi); başlık != 0)
         return başlık < 0;
     return Kimlik < öteki.Kimlik;
 }

@@ -49,6 +49,7 @@ private slots:
     void controlsAndMenus();
     void emptyLibrary();
     void browsing();
+    void changedAuthors();
     void lastAuthor_data();
     void lastAuthor();
     void layout_data();
@@ -153,6 +154,54 @@ void TestMainWindow::browsing()
         kayıtlar.Delete();
     t->Form->YazarListesiYükle();
     QCOMPARE(yazarlar.ListCount(), 4);
+}
+
+/// Bringing up to date what changed comes to the same as reading all authors.
+void TestMainWindow::changedAuthors()
+{
+    t->Göster();
+    ListeKutusu& yazarlar = t->Yazarlar();
+    const auto öğeler = [&] {
+        QStringList hepsi;
+        for (int i = 0; i < yazarlar.ListCount(); ++i)
+            hepsi.append(yazarlar.Item(i));
+        return hepsi;
+    };
+    const auto sil = [](const QString& yazar) {
+        Recordset kayıtlar =
+            Veritabanı->OpenRecordset(u"SELECT * FROM [Makaleler] WHERE [YazarAdi]='%1'"_s.arg(yazar));
+        for (; !kayıtlar.Eof(); kayıtlar.MoveNext())
+            kayıtlar.Delete();
+    };
+    const auto ekle = [](const QString& yazar) { Ekle(*Veritabanı, {{yazar, u"AA"_s, u"b"_s}}); };
+    struct Adım
+    {
+        std::function<void()> Yap;
+        QStringList Yazarlar;
+    };
+    const QList<Adım> adımlar = {
+        {[&] { ekle(u"ÇAĞ EN"_s); }, {u"ÇAĞ EN"_s}}, // in the middle
+        {[&] { ekle(u"AA BB"_s); }, {u"AA BB"_s}},   // at the beginning
+        {[&] { ekle(u"ÜÜ ŞŞ"_s); },
+         {u"U\u0308U\u0308 S\u0327S\u0327"_s}},    // at the end, as other systems type it
+        {[&] { ekle(u"aa bb"_s); }, {u"aa bb"_s}}, // the same one
+        {[&] { sil(u"AA BB"_s); }, {u"AA BB"_s}},
+        {[&] { sil(u"ÇAĞ EN"_s), ekle(u"ZZ ZZ"_s); }, {u"ÇAĞ EN"_s, u"ZZ ZZ"_s}}, // another name
+        {[] {}, {u"ALİ KAYA"_s}},
+        {[&] { sil(u"ÜÜ ŞŞ"_s), sil(u"ZZ ZZ"_s); }, {QString()}}, // not known
+        {[&] { ekle(u"O'NEIL X"_s); }, {u"O'NEIL X"_s}},          // breaks its query
+    };
+    for (const Adım& adım : adımlar) {
+        yazarlar.ListIndex(1);
+        adım.Yap();
+        t->Form->YazarListesiYükle(adım.Yazarlar);
+        const QStringList bulunan = öğeler();
+        QCOMPARE(yazarlar.ListIndex(), -1);
+        const QString toplam = t->Etiket(u"ToplamYazarSayısıEtiketi"_s);
+        t->Form->YazarListesiYükle();
+        QCOMPARE(bulunan, öğeler());
+        QCOMPARE(toplam, t->Etiket(u"ToplamYazarSayısıEtiketi"_s));
+    }
 }
 
 void TestMainWindow::lastAuthor_data()

@@ -36,6 +36,13 @@ int TürkçeKarşılaştır(std::string_view a, std::string_view b) noexcept
                             static_cast<int32_t>(b.size()), &durum);
 }
 
+int TürkçeKarşılaştır(const QString& a, const QString& b)
+{
+    const QByteArray bir = a.toUtf8(), öteki = b.toUtf8();
+    return TürkçeKarşılaştır(std::string_view(bir.constData(), std::size_t(bir.size())),
+                             std::string_view(öteki.constData(), std::size_t(öteki.size())));
+}
+
 std::string SıralamaSürümü()
 {
     UVersionInfo sürüm = {};
