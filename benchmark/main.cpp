@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::array KapalıÖlçümler = {&AçılışıÖlç, &AracıÖlç};
+constexpr std::array KapalıÖlçümler = {&AçılışıÖlç, &BaşlamayıÖlç, &AracıÖlç};
 constexpr std::array PencereÖlçümleri = {&YazarListesiniÖlç, &YazarTıklamasınıÖlç, &BaşlıkTıklamasınıÖlç,
                                          &ÖnekBulmayıÖlç,    &TümündeBulmayıÖlç,   &GirişPencereleriniÖlç,
                                          &GirişiÖlç,         &KaydetmeyiÖlç,       &SilmeyiÖlç};
@@ -26,6 +26,7 @@ const QList<int> Boylar = {1'000, 10'000, 100'000};
 const QList<int> KısaBoylar = {1'000, 10'000};
 const QList<qsizetype> Uzunluklar = {1'000'000, 20'000'000};
 constexpr int UzunlarınYanındakiler = 100;
+constexpr int BaşlangıçBoyu = 10; // what a new user has
 
 template<class Ölçümler>
 void penceredeÖlç(const ÖrnekKitaplık& kitaplık, Tablo& tablo, const Ölçümler& ölçümler)
@@ -61,6 +62,10 @@ void ölç(const QString& klasör, const QList<int>& boylar, bool pencereyle)
 {
     Tablo tablo;
     tablo.BaşlığıYaz();
+    tablo.Kitaplık(QStringLiteral("başlangıç"));
+    kitaplıkla(klasör, BaşlangıçBoyu, {}, [&](const ÖrnekKitaplık& kitaplık) {
+        BaşlamayıÖlç({kitaplık, tablo});
+    });
     for (const int boy : boylar) {
         tablo.Kitaplık(QStringLiteral("%L1 makale").arg(boy));
         kitaplıkla(klasör, boy, {}, [&](const ÖrnekKitaplık& kitaplık) {
@@ -87,6 +92,10 @@ int main(int argc, char** argv)
     qInstallMessageHandler(&iletiYaz);
     QApplication uygulama(argc, argv);
     QStringList sözler = QCoreApplication::arguments().mid(1);
+    for (const Başlatılan ne : {Başlatılan::Program, Başlatılan::BoşPencere}) {
+        if (sözler == QStringList{BaşlatmaSözü(ne)})
+            return PencereyleBaşla(uygulama, ne);
+    }
     const bool kısa = sözler.removeAll(QStringLiteral("--kısa")) > 0;
     const bool pencereyle = sözler.removeAll(QStringLiteral("--kapalı")) == 0;
     if (sözler.size() != 1 || !QDir(sözler[0]).exists()) {

@@ -88,27 +88,31 @@ void Tablo::BaşlığıYaz() const
 
 void Tablo::Satır(const Ölçüm& ölçüm)
 {
-    const Sonuç sonuç = Ölç(ölçüm);
+    Satır(ölçüm.Ad, Ölç(ölçüm), ölçüm.TabanAdı, ölçüm.Hedef);
+}
+
+void Tablo::Satır(const QString& ad, const Sonuç& sonuç, const QString& tabanAdı,
+                  const std::optional<Amaç>& hedef)
+{
     const double oran = sonuç.İş / sonuç.Taban;
     std::optional<double> büyüme;
-    if (const auto ilk = ilkler_.constFind(ölçüm.Ad); ilk != ilkler_.constEnd())
+    if (const auto ilk = ilkler_.constFind(ad); ilk != ilkler_.constEnd())
         büyüme = sonuç.İş / *ilk;
     else
-        ilkler_.insert(ölçüm.Ad, sonuç.İş);
+        ilkler_.insert(ad, sonuç.İş);
 
-    QString hedef = hedefMetni(ölçüm.Hedef);
-    if (ölçüm.Hedef) {
-        const Amaç::Tür tür = ölçüm.Hedef->tür;
+    QString hedefi = hedefMetni(hedef);
+    if (hedef) {
+        const Amaç::Tür tür = hedef->tür;
         const double değer = tür == Amaç::Tür::Süre   ? sonuç.İş
                              : tür == Amaç::Tür::Oran ? oran
                                                       : büyüme.value_or(1);
-        const bool tuttu = değer < ölçüm.Hedef->üstSınır;
+        const bool tuttu = değer < hedef->üstSınır;
         ++(tuttu ? tutan_ : tutmayan_);
-        hedef += tuttu ? QStringLiteral(" tuttu") : QStringLiteral(" AŞILDI");
+        hedefi += tuttu ? QStringLiteral(" tuttu") : QStringLiteral(" AŞILDI");
     }
-    sütunlarıYaz({kitaplık_, ölçüm.Ad, sayı(sonuç.İş), sayı(oran),
-                  büyüme ? sayı(*büyüme) : QStringLiteral("-"), hedef,
-                  ölçüm.TabanAdı + QStringLiteral(" (%1)").arg(sayı(sonuç.Taban))});
+    sütunlarıYaz({kitaplık_, ad, sayı(sonuç.İş), sayı(oran), büyüme ? sayı(*büyüme) : QStringLiteral("-"),
+                  hedefi, tabanAdı + QStringLiteral(" (%1)").arg(sayı(sonuç.Taban))});
 }
 
 void Tablo::SonucuYaz() const

@@ -50,6 +50,9 @@ public:
     void Kitaplık(const QString& ad) { kitaplık_ = ad; }
     /// Measures and prints. Growth counts from the first row with the same name.
     void Satır(const Ölçüm& ölçüm);
+    /// The same for what is no time, in the unit that its name tells.
+    void Satır(const QString& ad, const Sonuç& sonuç, const QString& tabanAdı,
+               const std::optional<Amaç>& hedef);
     /// How many bounds were kept and how many were not.
     void SonucuYaz() const;
 

@@ -5,6 +5,18 @@
 #include "ÖrnekKitaplık.h"
 
 class AnaForm;
+class QApplication;
+
+/// What a process of its own shows: the program as it starts, or a window to compare it with.
+enum class Başlatılan
+{
+    Program,
+    BoşPencere
+};
+/// The argument by which this program is told so.
+QString BaşlatmaSözü(Başlatılan ne);
+/// Shows it; ends the process as soon as it can be used.
+int PencereyleBaşla(QApplication& uygulama, Başlatılan ne);
 
 /// What the measurements of a closed library work on.
 struct KapalıOrtam
@@ -23,7 +35,7 @@ struct PencereOrtamı
 
 // On a closed library; it is closed again when they return.
 void AçılışıÖlç(const KapalıOrtam& ortam);
-
+void BaşlamayıÖlç(const KapalıOrtam& ortam);
 void AracıÖlç(const KapalıOrtam& ortam);
 
 // In the main window.
