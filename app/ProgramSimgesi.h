@@ -4,7 +4,7 @@
 #include <QIcon>
 #include <QLabel>
 
-/// For title bars, task lists and pictures of any size.
+/// For title bars and task lists.
 QIcon ProgramSimgesi();
 
 /// Makes a label show the picture, as fine as the screen of the label's window.

@@ -131,6 +131,7 @@ int SubMain(QApplication& uygulama)
         tekÖrnek->ÖneÇağrıldı = &kutuyuÖneGetir;
         AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(İleti::ProgramAdı);
         ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
+        KitaplığıHazırla(ProgramKlasörü);
         uygulama.setWindowIcon(ProgramSimgesi());
 
         karşılama.emplace().show();

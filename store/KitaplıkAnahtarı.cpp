@@ -4,7 +4,11 @@
 
 #include <QRandomGenerator>
 
+#include <future>
 #include <new>
+#include <optional>
+#include <system_error>
+#include <utility>
 
 namespace {
 
@@ -22,6 +26,20 @@ QByteArray türet(const QByteArray& parola, const QByteArray& tuz)
     return anahtar;
 }
 
+struct Hazırlanan
+{
+    QByteArray Parola, Tuz;
+    std::future<QByteArray> Anahtar;
+};
+std::optional<Hazırlanan> hazırlanan;
+
+/// Takes what is being derived, if it is this one.
+QByteArray hazırAnahtar(const QByteArray& parola, const QByteArray& tuz)
+{
+    auto hazır = std::exchange(hazırlanan, {});
+    return hazır && hazır->Parola == parola && hazır->Tuz == tuz ? hazır->Anahtar.get() : türet(parola, tuz);
+}
+
 } // namespace
 
 QByteArray YeniTuz()
@@ -36,8 +54,14 @@ Anahtar TuzluAnahtar(const QByteArray& parola, const QByteArray& tuz)
 {
     static QByteArray sonParola, sonAnahtar; // one thread works on libraries
     if (sonParola != parola || !sonAnahtar.endsWith(tuz)) {
-        sonAnahtar = türet(parola, tuz) + tuz;
+        sonAnahtar = hazırAnahtar(parola, tuz) + tuz;
         sonParola = parola;
     }
     return {AnahtarTürü::HamAnahtar, sonAnahtar};
+}
+
+void AnahtarıHazırla(const QByteArray& parola, const QByteArray& tuz)
+try {
+    hazırlanan = Hazırlanan{parola, tuz, std::async(std::launch::async, &türet, parola, tuz)};
+} catch (const std::system_error&) { // no further thread may be had: it is derived when it is needed
 }

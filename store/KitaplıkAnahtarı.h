@@ -27,3 +27,5 @@ QByteArray YeniTuz();
 /// @param parola UTF-8, not empty
 /// @param tuz TuzBoyu bytes
 Anahtar TuzluAnahtar(const QByteArray& parola, const QByteArray& tuz);
+/// Has another processor begin to derive it, for the first TuzluAnahtar to wait less. Once in a process.
+void AnahtarıHazırla(const QByteArray& parola, const QByteArray& tuz);

@@ -4,6 +4,7 @@
 #include "store/KitaplıkDosyası.h"
 #include "store/ÇalışmaGrubu.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -89,6 +90,16 @@ void KitaplıkKur(const QString& klasör, const std::function<QByteArray(const Q
 Anahtar KitaplıkAnahtarı(const QByteArray& tuz)
 {
     return TuzluAnahtar(KitaplıkParolası.toUtf8(), tuz);
+}
+
+void KitaplığıHazırla(const QString& klasör)
+{
+    QFile dosya(KitaplıkYolu(klasör, DosyaAdları::Kitaplık));
+    if (!dosya.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    const QByteArray tuz = dosya.read(TuzBoyu);
+    if (tuz.size() == TuzBoyu)
+        AnahtarıHazırla(KitaplıkParolası.toUtf8(), tuz);
 }
 
 Workspace SahipÇalışmaAlanı(DBEngine& motor)

@@ -62,6 +62,10 @@ Database KitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör)
 /// left a write in it that must be rolled back (SaltOkunur).
 Database OkunurKitaplıkAç(const Workspace& çalışmaAlanı, const QString& klasör);
 
+/// Begins with what takes long in opening the library, while something else is done. Never throws: what is
+/// wrong with the file, opening it tells.
+void KitaplığıHazırla(const QString& klasör);
+
 /// Used inside store/ only: what can be told of the library without an engine.
 /// What opens a library file with that salt.
 Anahtar KitaplıkAnahtarı(const QByteArray& tuz);
