@@ -3,6 +3,7 @@
 
 #include "app/OrtakDeğişkenlerModülü.h"
 #include "forms/AnaForm.h"
+#include "program/GirişModülü.h"
 
 #include <QApplication>
 #include <QDir>
@@ -90,6 +91,8 @@ void ölç(const QString& klasör, const QList<int>& boylar, bool pencereyle)
 int main(int argc, char** argv)
 {
     qInstallMessageHandler(&iletiYaz);
+    if (argc == 2 && QString::fromLocal8Bit(argv[1]) == BaşlatmaSözü(Başlatılan::Program))
+        ErkenBaşla();
     QApplication uygulama(argc, argv);
     QStringList sözler = QCoreApplication::arguments().mid(1);
     for (const Başlatılan ne : {Başlatılan::Program, Başlatılan::BoşPencere}) {

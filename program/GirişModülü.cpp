@@ -21,6 +21,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QScopeGuard>
 #include <QSessionManager>
 
@@ -109,6 +110,13 @@ void oturumSonunuBağla(QApplication& uygulama, AnaForm& form)
 
 } // namespace
 
+void ErkenBaşla()
+try {
+    const std::string klasör = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+    KitaplığıHazırla(SonaAyraçEkle(QFile::decodeName(klasör.c_str())));
+} catch (const std::filesystem::filesystem_error&) { // the start itself tells what is wrong
+}
+
 int SubMain(QApplication& uygulama)
 {
     // They outlive an error report: a second start brings it forward, F1 explains it, and the splash stays
@@ -131,7 +139,6 @@ int SubMain(QApplication& uygulama)
         tekÖrnek->ÖneÇağrıldı = &kutuyuÖneGetir;
         AyarUygulamaAdı = QStringLiteral("Tepsan Yazilim\\") + Metin(İleti::ProgramAdı);
         ProgramKlasörü = SonaAyraçEkle(QCoreApplication::applicationDirPath());
-        KitaplığıHazırla(ProgramKlasörü);
         uygulama.setWindowIcon(ProgramSimgesi());
 
         karşılama.emplace().show();
