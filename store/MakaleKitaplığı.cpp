@@ -95,7 +95,7 @@ Anahtar KitaplıkAnahtarı(const QByteArray& tuz)
 void KitaplığıHazırla(const QString& klasör)
 {
     QFile dosya(KitaplıkYolu(klasör, DosyaAdları::Kitaplık));
-    if (!dosya.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!QFileInfo(dosya).isFile() || !dosya.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return;
     const QByteArray tuz = dosya.read(TuzBoyu);
     if (tuz.size() == TuzBoyu)
