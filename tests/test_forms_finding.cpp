@@ -296,16 +296,18 @@ private slots:
         QVERIFY(ended && !Veritabanı && !QApplication::overrideCursor());
     }
 
-    /// What a screen reader is told, of the control that has the focus then.
+    /// What a screen reader is told.
     void announced()
     {
-        const auto told = [] { return QApplication::focusWidget()->accessibleDescription(); };
+        const auto told = [] { return bildirimler.isEmpty() ? QString() : bildirimler.takeLast(); };
         t->Yazarlar().ListIndex(0);
         t->Makaleler().ListIndex(2);
         word().setFocus();
         word().Text(u"deniz"_s);
-        press(u"BulButonu"_s);
-        QCOMPARE(told(), u"1 yer işaretlendi"_s);
+        for (int i = 0; i < 2; ++i) { // also a second time
+            press(u"BulButonu"_s);
+            QCOMPARE(told(), u"1 yer işaretlendi"_s);
+        }
         press(u"TümündeBulButonu"_s);
         QCOMPARE(QApplication::focusWidget(), &t->Makaleler());
         QCOMPARE(told(), u"2 makale bulundu!"_s);
