@@ -13,6 +13,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTimer>
+#include <QToolButton>
 #include <QWindow>
 
 #include <algorithm>
@@ -87,8 +88,11 @@ void YardımFormu::kontrolleriKur()
     KılavuzKutusu.setAccessibleName(SadeMetin(İleti::KılavuzBaşlığı));
 
     İçindekilerAğacı.setHeaderHidden(true);
-    DizinKutusu.setClearButtonEnabled(true);
-    BulKutusu.setClearButtonEnabled(true);
+    Sayfalar.setAccessibleName(QStringLiteral("Konular"));
+    for (QLineEdit* kutu : {&DizinKutusu, &BulKutusu}) {
+        kutu->setClearButtonEnabled(true);
+        kutu->findChild<QToolButton*>()->setAccessibleName(SadeMetin(İleti::Temizle));
+    }
     düğmeleriAyarla();
 }
 
