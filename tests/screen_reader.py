@@ -289,9 +289,9 @@ class Test:
         self.look_at("ayarlar", "Yazı Tipi Ayarları...", 11, "Yazı Tipleri", ("alt+k", "alt+y", "alt+y"))
         self.look_at("hakkında", "Hakkında", 2, "Tamam", (*menu, "h"))
         self.look_at("hata bildirme", "Hataları Bildirin!", 3, "Tamam", (*menu, "b"))
-        self.look_at("kılavuzun içindekileri", GUIDE, 10, "İçindekiler", (*menu, "i"))
-        self.look_at("kılavuzun dizini", GUIDE, 10, "Aranacak Terim", (*menu, "d"), before_closing=self.fill_guide)
-        self.look_at("F1", GUIDE, 10, "İçindekiler", ("F1",))
+        self.look_at("kılavuzun içindekileri", GUIDE, 14, "İçindekiler", (*menu, "i"))
+        self.look_at("kılavuzun dizini", GUIDE, 14, "Aranacak Terim", (*menu, "d"), before_closing=self.fill_guide)
+        self.look_at("F1", GUIDE, 14, "İçindekiler", ("F1",))
         self.look_at("çıkış sorusu", BOX, 3, "Evet", ("Escape",))
 
         marked = "%d yer işaretlendi" % text.count(" %s " % word)
