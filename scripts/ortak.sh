@@ -10,9 +10,10 @@ RUNTIME_PACKAGES="qt6-translations-l10n fonts-liberation x11-utils"
 VIRTUAL_DISPLAY_PACKAGES="xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick"
 # A print service with a printer that writes PDF (cups-*, poppler-utils); the public validators of the desktop
 # entry (desktop-file-utils), its metadata (appstream) and the manual page (mandoc); GLib's launcher, which
-# reads the entry as desktops do (libglib2.0-bin); a Wayland compositor (weston), and the toolkit's part for it.
+# reads the entry as desktops do (libglib2.0-bin); a Wayland compositor (weston), and the toolkit's part for it;
+# what screen readers listen to (at-spi2-core) on a bus of its own (dbus), and Python's way there (python3-gi).
 TEST_PACKAGES="$VIRTUAL_DISPLAY_PACKAGES xclip cups-daemon cups-client cups-filters poppler-utils
-    desktop-file-utils appstream mandoc libglib2.0-bin weston qt6-wayland"
+    desktop-file-utils appstream mandoc libglib2.0-bin weston qt6-wayland at-spi2-core dbus python3-gi"
 # The linters are Debian 12's: others find and format otherwise.
 LINT_PACKAGES="clang-format-14 clang-tidy-16 shellcheck"
 
