@@ -115,12 +115,13 @@ def gone_is_none(function, *arguments):
         return None
 
 
+# Without the Alt key: where its release comes late, it leads to the menu bar, which takes what follows.
 def keys(*names):
     subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
 
 
 def types(text):
-    subprocess.run(["xdotool", "type", "--delay", "50", text], check=True)
+    subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "50", text], check=True)
 
 
 def active_window():
@@ -177,7 +178,7 @@ class Test:
                 self.until(title, lambda: active_window() == title, PRESS_AGAIN)
                 return
             except Failed:
-                pass
+                print("  yeniden basılır: " + " ".join(names), flush=True)
         raise Failed("beklendi: pencere " + title)
 
     def window(self, title):
@@ -277,16 +278,16 @@ class Test:
 
         self.check("yazar listesinde aşağı: yazar", self.hears, self.hears_focus, "FERHUNDE GÖKÇEOĞLU", "Down")
         self.check("yazar listesinde yukarı: yazar", self.hears, self.hears_focus, first, "Up")
-        self.check("makale listesine gidilir", self.hears, self.hears_focus, "Makaleler", "alt+k")
+        self.check("makale listesine gidilir", self.hears, self.hears_focus, "Makaleler", "Tab", "Tab")
         self.check("makale listesinde aşağı: başlık", self.hears, self.hears_focus, titles[1], "Down")
         self.check("makale listesinde yukarı: başlık", self.hears, self.hears_focus, titles[0], "Up")
 
         menu = ("F10", "Left", "Down")  # the last one, opened
         self.look_at("ekleme", "Listeye Makale Ekle...", 11, "Makale Ekle", ("ctrl+n",))
         self.look_at("değiştirme", "Makaleyi Değiştir...", 11, "Yazar Adı", ("F2",), ("Escape", "space"))
-        self.look_at("silme", "Listeden Makale Sil...", 8, "Makaleler", ("alt+k", "Delete"))
-        self.look_at("referans", "Referans Bilgisi Oluşturma...", 4, "Referans Bilgisi Oluşturma", ("alt+m", "r"))
-        self.look_at("ayarlar", "Yazı Tipi Ayarları...", 11, "Yazı Tipleri", ("alt+k", "alt+y", "alt+y"))
+        self.look_at("silme", "Listeden Makale Sil...", 8, "Makaleler", ("Delete",))
+        self.look_at("referans", "Referans Bilgisi Oluşturma...", 4, "Referans Bilgisi Oluşturma", ("F10", "Down", "r"))
+        self.look_at("ayarlar", "Yazı Tipi Ayarları...", 11, "Yazı Tipleri", ("F10", "Right", "Return"))
         self.look_at("hakkında", "Hakkında", 2, "Tamam", (*menu, "h"))
         self.look_at("hata bildirme", "Hataları Bildirin!", 3, "Tamam", (*menu, "b"))
         self.look_at("kılavuzun içindekileri", GUIDE, 14, "İçindekiler", (*menu, "i"))
@@ -295,9 +296,9 @@ class Test:
         self.look_at("çıkış sorusu", BOX, 3, "Evet", ("Escape",))
 
         marked = "%d yer işaretlendi" % text.count(" %s " % word)
-        self.check("bulma kutusuna gidilir", self.hears, self.hears_focus, "Bulunacak Sözcük", "alt+c")
+        self.check("bulma kutusuna gidilir", self.hears, self.hears_focus, "Bulunacak Sözcük", "ctrl+f")
         self.check("bulunanların sayısı söylenir", self.hears, self.hears_words, marked, "Return", typed=word)
-        self.check("yeniden bulununca yeniden söylenir", self.hears, self.hears_words, marked, "alt+b")
+        self.check("yeniden bulununca yeniden söylenir", self.hears, self.hears_words, marked, "Return")
         places = text.count(word)
         for place in (1, 2):
             self.check("F3 %d. yeri söyler" % place, self.hears, self.hears_words, "%d / %d" % (place, places), "F3")
@@ -305,7 +306,7 @@ class Test:
         self.check("Shift+F3 sona geçtiğini söyler", self.hears, self.hears_words,
                    "%d / %d, sondan" % (places, places), "shift+F3")
         found = "%d makale bulundu!" % sum(word in text for text in texts)
-        self.check("tümünde bulunanların sayısı söylenir", self.hears, self.hears_words, found, "alt+t")
+        self.check("tümünde bulunanların sayısı söylenir", self.hears, self.hears_words, found, "ctrl+shift+f")
         self.check("program biter", self.end)
 
 

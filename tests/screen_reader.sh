@@ -21,7 +21,7 @@ cmake --install "$build" --prefix "$folder" >/dev/null
 "$folder/belgenar-kitaplik" aktar "$folder" "$library" >/dev/null
 
 # Debian's Python: another one may come first and lacks the bindings.
-setsid timeout 900 dbus-run-session -- /usr/bin/python3 tests/screen_reader.py "$folder/belgenar" "$library" \
+setsid timeout 400 dbus-run-session -- /usr/bin/python3 tests/screen_reader.py "$folder/belgenar" "$library" \
     >"$work/said" 2>"$work/log" &
 session=$!
 wait "$session"
