@@ -115,7 +115,7 @@ def gone_is_none(function, *arguments):
         return None
 
 
-# Without the Alt key: where its release comes late, it leads to the menu bar, which takes what follows.
+# Without the Alt key: on a busy machine what followed it landed in the menus now and then.
 def keys(*names):
     subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
 
