@@ -2,6 +2,7 @@
 
 #include "app/Görünüm.h"
 #include "app/Metinler.h"
+#include "controls/Duyuru.h"
 #include "controls/Etiketler.h"
 #include "system/OrtakApilerModülü.h"
 #include "text/TürkçeHarfler.h"
@@ -235,13 +236,20 @@ void YardımFormu::sonrakiniBul(int adım)
 {
     SonrakiButonu.setEnabled(!bulunanlar_.isEmpty());
     if (bulunanlar_.isEmpty()) {
-        Etiket[2].setText(BulKutusu.Text().isEmpty() ? QString() : Metin(İleti::KılavuzdaYok));
+        bulunanıSöyle(BulKutusu.Text().isEmpty() ? QString() : Metin(İleti::KılavuzdaYok));
         return;
     }
     const qsizetype sayı = bulunanlar_.size();
     bulunanSırası_ = ((bulunanSırası_ + adım) % sayı + sayı) % sayı;
-    Etiket[2].setText(QStringLiteral("%1 / %2").arg(bulunanSırası_ + 1).arg(sayı));
+    bulunanıSöyle(QStringLiteral("%1 / %2").arg(bulunanSırası_ + 1).arg(sayı));
     KılavuzKutusu.Git(bulunanlar_[bulunanSırası_], static_cast<int>(BulKutusu.Text().size()));
+}
+
+void YardımFormu::bulunanıSöyle(const QString& yazı)
+{
+    Etiket[2].setText(yazı);
+    if (!yazı.isEmpty())
+        Duyur(yazı);
 }
 
 void YardımFormu::git(int yer, int uzunluk)

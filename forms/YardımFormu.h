@@ -55,6 +55,7 @@ private:
     void düğmeleriAyarla();
     void bölümüİşaretle();
     void sonrakiniBul(int adım);
+    void bulunanıSöyle(const QString& yazı);
     QString terimYazısı(const Kılavuz::Terim& terim) const;
 
     Kılavuz kılavuz_;

@@ -257,7 +257,7 @@ class Test:
         types("kitap")
         self.check("dolu dizin kutusu: her denetimin adı var", self.all_named, GUIDE, empty + 1)
         keys("ctrl+f")
-        types("kitap")
+        self.check("kılavuzda bulunamayan söylenir", self.hears, self.hears_words, "Bulunamadı", "Return", typed="xqxq")
         self.check("dolu bulma kutusu: her denetimin adı var", self.all_named, GUIDE, empty + 2)
 
     def end(self):
