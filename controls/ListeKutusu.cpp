@@ -37,12 +37,19 @@ public:
             return QSize(1, liste_.fontMetrics().height() + SatırBoşluğu);
         return {};
     }
-    void ekle(int sıra, const QStringList& yeni)
+    void ekle(const QStringList& yeni)
     {
         if (yeni.isEmpty())
             return;
-        beginInsertRows({}, sıra, sıra + static_cast<int>(yeni.size()) - 1);
-        metinler_ = metinler_.first(sıra) + yeni + metinler_.sliced(sıra);
+        const int ilk = static_cast<int>(metinler_.size());
+        beginInsertRows({}, ilk, ilk + static_cast<int>(yeni.size()) - 1);
+        metinler_ += yeni;
+        endInsertRows();
+    }
+    void arayaKoy(int sıra, const QString& metin)
+    {
+        beginInsertRows({}, sıra, sıra);
+        metinler_.insert(sıra, metin);
         endInsertRows();
     }
     void değiştir(int sıra, const QString& metin)
@@ -120,12 +127,12 @@ void ListeKutusu::Item(int sıra, const QString& metin)
 
 void ListeKutusu::AddItems(const QStringList& metinler)
 {
-    model_->ekle(ListCount(), metinler);
+    model_->ekle(metinler);
 }
 
 void ListeKutusu::InsertItem(int sıra, const QString& metin)
 {
-    model_->ekle(sıra, {metin});
+    model_->arayaKoy(sıra, metin);
 }
 
 void ListeKutusu::RemoveItem(int sıra)

@@ -165,18 +165,6 @@ int unlink(const char* yol) noexcept
 {
     return basit(ÇağrıTürü::Silme, yol, SYS_unlink, yol);
 }
-int stat64(const char* yol, struct stat64* bilgi) noexcept
-{
-    return basit(ÇağrıTürü::Bakma, yol, SYS_stat, yol, bilgi);
-}
-int lstat64(const char* yol, struct stat64* bilgi) noexcept
-{
-    return basit(ÇağrıTürü::Bakma, yol, SYS_lstat, yol, bilgi);
-}
-int fstat64(int no, struct stat64* bilgi) noexcept
-{
-    return basit(ÇağrıTürü::Bakma, no, SYS_fstat, no, bilgi);
-}
 int statx(int klasör, const char* yol, int bayraklar, unsigned ne, struct statx* bilgi) noexcept
 {
     return bayraklar & AT_EMPTY_PATH
@@ -204,16 +192,15 @@ int open64(const char*, int, ...) __attribute__((alias("open")));
 ssize_t pread64(int, void*, size_t, off64_t) __attribute__((alias("pread")));
 ssize_t pwrite64(int, const void*, size_t, off64_t) __attribute__((alias("pwrite")));
 int ftruncate64(int, off64_t) noexcept __attribute__((alias("ftruncate")));
-int stat(const char* yol, struct stat* bilgi) noexcept
-{
-    return basit(ÇağrıTürü::Bakma, yol, SYS_stat, yol, bilgi);
-}
-int lstat(const char* yol, struct stat* bilgi) noexcept
-{
-    return basit(ÇağrıTürü::Bakma, yol, SYS_lstat, yol, bilgi);
-}
-int fstat(int no, struct stat* bilgi) noexcept
-{
-    return basit(ÇağrıTürü::Bakma, no, SYS_fstat, no, bilgi);
-}
+#define BAKMA(ad, nereye, ne, çağrı)                                                                         \
+    int ad(nereye yer, struct ne* bilgi) noexcept                                                            \
+    {                                                                                                        \
+        return basit(ÇağrıTürü::Bakma, yer, çağrı, yer, bilgi);                                              \
+    }
+BAKMA(stat, const char*, stat, SYS_stat)
+BAKMA(stat64, const char*, stat64, SYS_stat)
+BAKMA(lstat, const char*, stat, SYS_lstat)
+BAKMA(lstat64, const char*, stat64, SYS_lstat)
+BAKMA(fstat, int, stat, SYS_fstat)
+BAKMA(fstat64, int, stat64, SYS_fstat)
 }
