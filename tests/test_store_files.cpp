@@ -1,4 +1,5 @@
 #include "library_fixture.h"
+#include "system_calls.h"
 
 #include "store/Bağlantı.h"
 
@@ -14,7 +15,6 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -46,46 +46,7 @@ bool diskBoyu(const QString& klasör, qint64 bayt, unsigned long bayraklar = MS_
     return mount("tmpfs", yol.constData(), "tmpfs", bayraklar, boy.constData()) == 0;
 }
 
-// The calls below stand in front of the C library's own for this whole program, SQLite included: while an
-// error is set here, they fail with it.
-struct
-{
-    int Klasör = 0, Okuma = 0, Yazma = 0; // errno of: syncing a folder, reading, writing
-} arıza;
-
-int başarısız(int hata)
-{
-    errno = hata;
-    return -1;
-}
-
-int eşitle(long çağrı, int no)
-{
-    struct stat bilgi = {};
-    const bool klasör = fstat(no, &bilgi) == 0 && S_ISDIR(bilgi.st_mode);
-    return klasör && arıza.Klasör ? başarısız(arıza.Klasör) : int(syscall(çağrı, no));
-}
-
 } // namespace
-
-extern "C" {
-int fsync(int no)
-{
-    return eşitle(SYS_fsync, no);
-}
-int fdatasync(int no)
-{
-    return eşitle(SYS_fdatasync, no);
-}
-ssize_t pread64(int no, void* baytlar, size_t boy, off64_t yer)
-{
-    return arıza.Okuma ? başarısız(arıza.Okuma) : syscall(SYS_pread64, no, baytlar, boy, yer);
-}
-ssize_t pwrite64(int no, const void* baytlar, size_t boy, off64_t yer)
-{
-    return arıza.Yazma ? başarısız(arıza.Yazma) : syscall(SYS_pwrite64, no, baytlar, boy, yer);
-}
-}
 
 class TestStoreFiles : public QObject
 {
@@ -100,6 +61,7 @@ class TestStoreFiles : public QObject
     QString hazırla()
     {
         geçici_ = std::make_unique<QTemporaryDir>();
+        GözlenenKlasör = QFile::encodeName(geçici_->path()).toStdString();
         for (const QString& ad : {Mde, Tps})
             DosyaYaz(geçici_->filePath(ad), dosyalar_[ad]);
         return geçici_->path() + u'/';
@@ -194,7 +156,8 @@ private slots:
     void creation()
     {
         const DenemeKitaplığı kitaplık;
-        const QString klasör = kitaplık.Klasör(), yeni = u".yeni"_s;
+        const QString& klasör = kitaplık.Klasör();
+        const QString yeni = u".yeni"_s;
         const Dosyalar tam = KlasörOku(klasör);
         QCOMPARE(tam.keys(), (QStringList{Mde, Tps}));
         const QByteArray yarım = tam[Mde].left(5000), &mde = tam[Mde], &tps = tam[Tps];
@@ -376,8 +339,13 @@ private slots:
         QFETCH(int, okuma);
         QFETCH(int, yazma);
         const auto bozukken = [&](const std::function<void()>& iş) {
-            arıza = {klasör, okuma, yazma};
-            const auto düzelt = qScopeGuard([] { arıza = {}; });
+            ÇağrıGözcüsü = [&](const SistemÇağrısı& çağrı) {
+                return çağrı.Tür == ÇağrıTürü::Eşitleme && çağrı.Klasör ? klasör
+                       : çağrı.Tür == ÇağrıTürü::Okuma                  ? okuma
+                       : çağrı.Tür == ÇağrıTürü::Yazma                  ? yazma
+                                                                        : 0;
+            };
+            const auto düzelt = qScopeGuard([] { ÇağrıGözcüsü = nullptr; });
             return HataNumarası(iş);
         };
         const QString yol = hazırla();
@@ -476,10 +444,10 @@ private slots:
         }
         QVERIFY(QFile::remove(klasör + u"açık"_s));
         const QByteArray eski = DosyaOku(klasör + Mde);
-        Açılış(klasör, [&] {
+        static_cast<void>(Açılış(klasör, [&] {
             const QByteArray şimdiki = DosyaOku(klasör + Mde); // is never half a file
             QVERIFY(!açıkta() && (şimdiki == eski || şimdiki == DosyaOku(klasör + MdKopya)));
-        });
+        }));
         const auto bağlantı = DosyaBağlantısı(klasör, 4);
         const İşlem işlem(*bağlantı);
         bağlantı->Çalıştır("UPDATE Makaleler SET YayimYeri='X', MakaleMetni=MakaleMetni||'.'");
